@@ -1,0 +1,187 @@
+// The command line: editing and painting.
+#include "shell/command_line.h"
+
+#include <algorithm>
+
+#include "config/values/colours.h"
+#include "config/values/options.h"
+#include "console/console.h"
+#include "foundation/fold.h"
+#include "foundation/paths.h"
+#include "shell/shell_quote.h"
+
+int WordStart(const Westring& line, int cursor) {
+  int i = cursor;
+  if (i > 0) --i;
+  while (i > 0 && !IsWordChar(line[i])) --i;
+  while (i > 0 && IsWordChar(line[i - 1])) --i;
+  return i;
+}
+
+int WordEnd(const wchar_t* text, bool briefWordRight) {
+  int i = *text && !briefWordRight ? 1 : 0;
+  while (text[i] && IsWordChar(text[i]) != briefWordRight) ++i;
+  while (text[i] && IsWordChar(text[i]) == briefWordRight) ++i;
+  return i;
+}
+
+namespace {
+
+int WordEndAtCursor(const Shell& shell) {
+  return shell.commandCursor + WordEnd(shell.commandLine.Text() + shell.commandCursor, Options::BriefWordRight);
+}
+
+void Erase(Shell& shell, int from, int to) {
+  shell.commandLine = Left(shell.commandLine, from) + (shell.commandLine.Text() + to);
+  shell.commandCursor = from;
+}
+
+// Line ends and tabs of pasted text would show as glyphs and mean nothing here.
+Westring OneLine(const Westring& text) {
+  Westring result = Trim(text);
+  for (wchar_t* p = result.Text(); *p; ++p)
+    if (*p == L'\n' || *p == L'\r' || *p == L'\t') *p = L' ';
+  return result;
+}
+
+}  // namespace
+
+void SetCommandLine(Shell& shell, const Westring& text) {
+  shell.commandLine = text;
+  shell.commandCursor = Length(text);
+}
+
+void EmptyCommandLine(Shell& shell) { SetCommandLine(shell, L""); }
+
+bool InsertText(Shell& shell, const Westring& text) {
+  const int added = Length(text);
+  if (Length(shell.commandLine) + added > kMaxCommandLine) return false;
+  const Westring& line = shell.commandLine;
+  shell.commandLine = Left(line, shell.commandCursor) + text + (line.Text() + shell.commandCursor);
+  shell.commandCursor += added;
+  return true;
+}
+
+bool InsertAtCursor(Shell& shell, const Westring& text) {
+  const Westring quoted = ShellQuote(text);
+  Westring inserted;
+  for (const wchar_t* p = quoted.Text(); *p; ++p) {
+    inserted += *p;
+    if (*p == static_cast<unsigned char>(Options::CmdChar)) inserted += *p;
+  }
+  const int length = Length(inserted);
+  if (length > 0 && inserted[length - 1] != L'/') inserted += L' ';
+  return InsertText(shell, inserted);
+}
+
+Westring PromptText() {
+  const TPanel& active = ActivePanel();
+  const TPanel& shown = active.IsFiles() && !active.IsTree() ? active : OtherPanel();
+  const Westring path = ShortenPath(shown.path, ScreenColumns / 2 - 1);
+  return (Options::PathPrompt ? path : Left(path, 2)) + L">";
+}
+
+void PaintCommandLine(Shell& shell) {
+  const int length = Length(shell.commandLine);
+  shell.commandCursor = std::min(shell.commandCursor, length);
+  if (shell.commandScroll >= length - 40) shell.commandScroll = std::max(0, length - 40);
+  const Westring prompt = PromptText();
+  shell.promptWidth = Length(prompt);
+  shell.commandScroll = std::min(shell.commandScroll, shell.commandCursor);
+  const int leastScroll = shell.commandCursor - ScreenColumns + shell.promptWidth + 1;
+  shell.commandScroll = std::max({shell.commandScroll, leastScroll, 0});
+
+  const Westring row = LJust(prompt + (shell.commandLine.Text() + shell.commandScroll), ScreenColumns);
+  Console->PutString(0, ScreenRows - 2, row.Text(), Options::Colours[kColourCommandLine]);
+}
+
+void PlaceCommandCursor(const Shell& shell) {
+  Console->SetCursor(shell.promptWidth + shell.commandCursor - shell.commandScroll, ScreenRows - 2);
+}
+
+int TypeCharacter(Shell& shell) {
+  return InsertText(shell, Westring::Replicate(static_cast<wchar_t>(shell.key), 1)) ? kRedrawLine : kRedrawNothing;
+}
+
+int DeleteAtCursor(Shell& shell) {
+  if (shell.commandCursor >= Length(shell.commandLine)) return kRedrawNothing;
+  Erase(shell, shell.commandCursor, shell.commandCursor + 1);
+  return kRedrawLine;
+}
+
+int DeleteLeft(Shell& shell) {
+  if (shell.commandCursor == 0) return kRedrawNothing;
+  Erase(shell, shell.commandCursor - 1, shell.commandCursor);
+  return kRedrawLine;
+}
+
+int DeleteWordLeft(Shell& shell) {
+  Erase(shell, WordStart(shell.commandLine, shell.commandCursor), shell.commandCursor);
+  return kRedrawLine;
+}
+
+int DeleteWordRight(Shell& shell) {
+  Erase(shell, shell.commandCursor, WordEndAtCursor(shell));
+  return kRedrawLine;
+}
+
+int MoveWordLeft(Shell& shell) {
+  shell.commandCursor = WordStart(shell.commandLine, shell.commandCursor);
+  return kRedrawLine;
+}
+
+int MoveWordRight(Shell& shell) {
+  shell.commandCursor = WordEndAtCursor(shell);
+  return kRedrawLine;
+}
+
+int MoveLineStart(Shell& shell) {
+  shell.commandCursor = 0;
+  return kRedrawLine;
+}
+
+int MoveLineEnd(Shell& shell) {
+  shell.commandCursor = Length(shell.commandLine);
+  return kRedrawLine;
+}
+
+namespace {
+
+// On an empty line the sideways keys move the long name under the panel cursor.
+int ScrollName(Shell& shell, int step) {
+  TPanel& panel = ActivePanel();
+  if (panel.nameScroll + step < 0) return kRedrawNothing;
+  panel.nameScroll += step;
+  panel.nameScrollEntry = shell.currentIndex;
+  shell.cursorDirty = true;
+  return kRedrawNothing;
+}
+
+}  // namespace
+
+int CursorLeft(Shell& shell) {
+  if (shell.commandCursor > 0) {
+    --shell.commandCursor;
+    return kRedrawLine;
+  }
+  return shell.commandLine.IsEmpty() ? ScrollName(shell, -1) : kRedrawNothing;
+}
+
+int CursorRight(Shell& shell) {
+  if (shell.commandCursor < Length(shell.commandLine)) {
+    ++shell.commandCursor;
+    return kRedrawLine;
+  }
+  return shell.commandLine.IsEmpty() ? ScrollName(shell, 1) : kRedrawNothing;
+}
+
+int CopyLine(Shell& shell) {
+  Console->SetClipboardText(shell.commandLine);
+  return kRedrawNothing;
+}
+
+int PasteLine(Shell& shell) {
+  Westring text;
+  if (!Console->GetClipboardText(text) || text.IsEmpty()) return kRedrawNothing;
+  return InsertText(shell, OneLine(text)) ? kRedrawLine : kRedrawNothing;
+}

@@ -1,0 +1,37 @@
+// The command line: editing and painting.
+#pragma once
+
+#include "shell/shell.h"
+
+// Ends of words from a place in the line, by the program's word characters.
+int WordStart(const Westring& line, int cursor);            // of the word left of cursor
+int WordEnd(const wchar_t* text, bool briefWordRight);  // how far Ctrl-Right goes
+
+void SetCommandLine(Shell& shell, const Westring& text);  // cursor to the end
+void EmptyCommandLine(Shell& shell);
+
+// Puts text in at the cursor if the line then holds at most kMaxCommandLine
+// characters. Tells whether it did.
+bool InsertText(Shell& shell, const Westring& text);
+// The same with text quoted for the shell and for macros, and a blank behind it.
+bool InsertAtCursor(Shell& shell, const Westring& text);
+
+// The prompt in front of the line.
+Westring PromptText();
+void PaintCommandLine(Shell& shell);
+void PlaceCommandCursor(const Shell& shell);
+
+// Commands; each returns what is to be painted.
+int TypeCharacter(Shell& shell);
+int DeleteAtCursor(Shell& shell);
+int DeleteLeft(Shell& shell);
+int DeleteWordLeft(Shell& shell);
+int DeleteWordRight(Shell& shell);
+int MoveWordLeft(Shell& shell);
+int MoveWordRight(Shell& shell);
+int MoveLineStart(Shell& shell);
+int MoveLineEnd(Shell& shell);
+int CursorLeft(Shell& shell);   // or scrolls the long name under the panel cursor
+int CursorRight(Shell& shell);
+int CopyLine(Shell& shell);
+int PasteLine(Shell& shell);

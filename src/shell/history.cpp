@@ -1,0 +1,67 @@
+// The command history and stepping through it on the command line.
+#include "shell/history.h"
+
+#include <cwchar>
+
+#include "foundation/fold.h"
+#include "shell/command_line.h"
+
+WestringStore CommandHistory;
+
+void AddCommand(const Westring& text) {
+  const Westring command = LTrim(text);
+  if (command.IsEmpty()) return;
+  CommandHistory.First();
+  while (Westring* old = CommandHistory.Current()) {
+    if (wcscmp(old->Text(), command.Text()) == 0)
+      CommandHistory.Remove();
+    else
+      CommandHistory.Next();
+  }
+  CommandHistory.Add(command);
+}
+
+namespace {
+
+// One step through the ring of the line being edited (0) and all commands.
+void Step(Shell& shell, int step) {
+  const int count = CommandHistory.Count();
+  if (shell.historyIndex == 0) shell.savedLine = shell.commandLine;
+  shell.historyIndex += step;
+  if (shell.historyIndex > count) shell.historyIndex = 0;
+  if (shell.historyIndex < 0) shell.historyIndex = count;
+}
+
+const Westring& SteppedLine(const Shell& shell) {
+  if (shell.historyIndex == 0) return shell.savedLine;
+  return *CommandHistory.Peek(CommandHistory.Count() - shell.historyIndex);
+}
+
+int StepAndShow(Shell& shell, int step) {
+  if (CommandHistory.Count() == 0) return kRedrawNothing;
+  Step(shell, step);
+  SetCommandLine(shell, SteppedLine(shell));
+  return kRedrawLine;
+}
+
+}  // namespace
+
+int PreviousCommand(Shell& shell) { return StepAndShow(shell, 1); }
+int NextCommand(Shell& shell) { return StepAndShow(shell, -1); }
+
+bool SearchByPrefix(Shell& shell, bool older) {
+  const int length = shell.commandCursor;
+  const Westring prefix = Left(shell.commandLine, length);
+  shell.commandLine = prefix;
+  const int count = CommandHistory.Count();
+  for (int steps = 0; steps <= count; ++steps) {
+    Step(shell, older ? 1 : -1);
+    if (shell.historyIndex == 0) continue;
+    const Westring& candidate = SteppedLine(shell);
+    if (Length(candidate) >= length && CompareNoCaseN(candidate.Text(), prefix.Text(), length) == 0) {
+      shell.commandLine = candidate;
+      return true;
+    }
+  }
+  return false;
+}

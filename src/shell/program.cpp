@@ -1,0 +1,238 @@
+// The whole life of the program: start-up in its order, the loop of painting,
+// reading a key and acting, and the orderly exit.
+#include "shell/program.h"
+
+#include <cstdio>
+#include <memory>
+
+#include "config/settings_file.h"
+#include "config/values/colours.h"
+#include "config/values/options.h"
+#include "console/console.h"
+#include "console/toolkit.h"
+#include "foundation/code_pages.h"
+#include "foundation/environment.h"
+#include "foundation/paths.h"
+#include "panels/draw_panel.h"
+#include "panels/navigation.h"
+#include "panels/read_panel.h"
+#include "shell/arguments.h"
+#include "shell/clock.h"
+#include "shell/command_line.h"
+#include "shell/dispatch.h"
+#include "shell/exit_script.h"
+#include "shell/key_bar.h"
+#include "shell/screen.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr int kLineCursorSize = 15;
+constexpr int kTitleWidth = 50;
+
+uint32_t DrawnModifiers = 0;  // for which the function-key bar was painted
+
+// ---- start -----------------------------------------------------------------
+
+void ResetInput() {
+  BreakState = 0;
+  CurrentModifiers = ReportedModifiers = 0;
+}
+
+void FindProgramPath(const char* name) {
+  if (!NormalisePath(Westring(name), CurrentDirectory(), ProgramPath)) ProgramPath = Westring(name);
+}
+
+void CollectPanelState() {
+  Options::LeftShowing = Panels[0].visible;
+  Options::LeftStyle = Panels[0].style;
+  Options::LeftType = Panels[0].panelType;
+  Options::LeftFilter = Panels[0].filter;
+  Options::RightShowing = Panels[1].visible;
+  Options::RightStyle = Panels[1].style;
+  Options::RightType = Panels[1].panelType;
+  Options::RightFilter = Panels[1].filter;
+}
+
+void ForceLeastSize() {
+  if (ScreenColumns >= 80 && ScreenRows >= 25) return;
+  ScreenColumns = 80;
+  ApplyScreenSize(ScreenRows, 80);
+}
+
+void ChooseStartDirectory(int side, const Westring& argument) {
+  TPanel& panel = Panels[side];
+  const Westring current = CurrentDirectory();
+  CopyText(panel.path, current.Text());
+  const Westring& option = side == 0 ? Options::Left : Options::Right;
+  const Westring& start = !argument.IsEmpty() ? argument : !option.IsEmpty() ? option : current;
+  if (ChangeDirectory(panel, start)) return;
+  // The panel stays where it is; the console text behind the panels tells why.
+  Console->WriteText(ToUtf8(Westring(L"Invalid directory: ") + start + L"\n").Text());
+}
+
+void ApplyPanelSettings(TPanel& panel, int side) {
+  const bool left = side == 0;
+  CopyText(panel.lastPath, panel.path);
+  panel.sortKey = left ? Options::LeftSort : Options::RightSort;
+  const int style = left ? Options::LeftStyle : Options::RightStyle;
+  const int type = left ? Options::LeftType : Options::RightType;
+  panel.filter = left ? Options::LeftFilter : Options::RightFilter;
+  panel.visible = left ? Options::LeftShowing : Options::RightShowing;
+  panel.nameScrollEntry = -1;
+  panel.visibleEntries = PanelRows * (style == kStyleBrief ? 3 : 1);
+  // The listing is there even where the panel shows information.
+  panel.style = kStyleFull;
+  panel.panelType = kPanelFiles;
+  ReadPanel(panel);
+  panel.style = style;
+  panel.panelType = type;
+  if (style != kStyleTree && panel.visible) MakePanelWindow(panel, side);
+}
+
+void OpenPanels(const Arguments& arguments) {
+  for (int side = 0; side < 2; ++side) ChooseStartDirectory(side, arguments.startDirectory[side]);
+  Console->WriteText("\n\n");
+  for (int side = 0; side < 2; ++side) ApplyPanelSettings(Panels[side], side);
+  UpdateSelectableRegion();
+  ActiveSide = Options::StartupSide == 'R' ? 1 : 0;
+  SetAppTitle(nullptr);
+  ActivateSide(static_cast<int>(ActiveSide));
+}
+
+// ---- the loop --------------------------------------------------------------
+
+void ChooseActiveSide(Shell& shell) {
+  shell.bothHidden = !Panels[0].visible && !Panels[1].visible;
+  if (!shell.bothHidden && !ActivePanel().visible) {
+    ActivateSide(static_cast<int>(ActiveSide ^ 1));
+    shell.cursorDirty = true;
+  } else if (shell.redrawLevel != kRedrawNothing) {
+    ActivateSide(static_cast<int>(ActiveSide));
+  }
+}
+
+void PaintCursorBar(Shell& shell) {
+  TPanel& panel = ActivePanel();
+  shell.currentIndex = panel.CurrentIndex();
+  shell.currentEntry = panel.Current();
+  if (panel.nameScrollEntry != shell.currentIndex) panel.nameScroll = 0;
+  if (!shell.cursorDirty) return;
+  DrawCursor(static_cast<int>(ActiveSide), true);
+  DrawStatusLine(OtherPanel());
+  shell.cursorDirty = false;
+}
+
+void PaintLines(Shell& shell) {
+  if (CurrentModifiers != DrawnModifiers) shell.redrawLevel = kRedrawAll;
+  if (shell.redrawLevel == kRedrawNothing) return;
+  PaintCommandLine(shell);
+  if (shell.redrawLevel < kRedrawAll) return;
+  PaintKeyBar(BarLabels(CurrentModifiers));
+  DrawnModifiers = CurrentModifiers;
+  SetAppTitle(ShortenPath(ActivePanel().path, kTitleWidth).Text());
+}
+
+void ReadNextKey(Shell& shell) {
+  TPanel& panel = ActivePanel();
+  panel.lastTop = panel.topIndex;
+  panel.lastCursor = panel.cursorRow;
+  PlaceCommandCursor(shell);
+  if (shell.keyPending) return;
+  Console->SetCursorSize(kLineCursorSize);
+  bool timedOut = false;
+  shell.key = ReadKey(timedOut, &shell.mouse, -1);
+  Console->SetCursorSize(0);
+}
+
+void RunLoop(Shell& shell) {
+  while (!shell.quit) {
+    if (ShowPanels(true)) shell.cursorDirty = true;
+    ShowClock();
+    ChooseActiveSide(shell);
+    PaintCursorBar(shell);
+    PaintLines(shell);
+    ReadNextKey(shell);
+    shell.keyPending = false;
+    DispatchKey(shell);
+  }
+}
+
+// ---- the exit --------------------------------------------------------------
+
+void ClosePanels(const Arguments& arguments) {
+  if (Options::AutoSave) SaveSettings();
+  const Westring scriptPath = ExitScriptPath(ActivePanel());
+  RemoveClock();
+  for (int side = 0; side < 2; ++side) {
+    Panels[side].archive.reset();
+    if (Panels[side].visible) Panels[side].window.reset();
+  }
+  Console->FillBlank(0, ScreenRows - 2, ScreenColumns, 2, Options::Colours[kColourCommandLine]);
+  Console->SetCursorSize(kLineCursorSize);
+  Console->SetTitle(Westring());
+  Console->SetCursor(0, ScreenRows - 1);
+  if (!arguments.exitScript.IsEmpty()) WriteExitScript(arguments.exitScript, scriptPath);
+}
+
+int RefuseInternalTool(const char* what) {
+  Console->SetCursor(0, ScreenRows - 1);
+  Console->SetCursorSize(kLineCursorSize);
+  fprintf(stderr, "orvane: the internal %s is not part of this version\n", what);
+  return 1;
+}
+
+int RunWithConsole(int argc, char** argv) {
+  UpdateGeometry();
+  const Arguments arguments = ReadArguments(argc, argv);
+  if (arguments.usageError) {
+    puts(arguments.usageError);
+    return 1;
+  }
+  SetupLocale();
+  LoadSettings(false);
+  BuildCaseTables();
+  UpdateGeometry();
+  ForceLeastSize();
+  SetupLocale();
+  if (!arguments.viewFile.IsEmpty()) return RefuseInternalTool("viewer");
+  if (!arguments.editFile.IsEmpty()) return RefuseInternalTool("editor");
+
+  OpenPanels(arguments);
+  Shell shell;
+  IdleHook = UpdateClock;
+  RunLoop(shell);
+  IdleHook = nullptr;
+  ClosePanels(arguments);
+  return 0;
+}
+
+}  // namespace
+
+int RunOrvane(int argc, char** argv) {
+  FindProgramPath(argc > 0 ? argv[0] : "orvane");
+  Variables.Load();
+  Toolkit toolkit(argc, argv);
+  if (!toolkit.IsReady()) {
+    fputs("orvane: there is no display to open a window on\n", stderr);
+    return 1;
+  }
+  Console = new CConsole;
+  WestringStore icons;
+  icons.Add(L"/usr/share/icons/hicolor/16x16/apps/orvane.png");
+  icons.Add(L"/usr/share/icons/hicolor/scalable/apps/orvane.svg");
+  Console->SetIconList(icons);
+  const auto panels = std::make_unique<TPanel[]>(2);
+  Panels = panels.get();
+  ActiveSide = 0;
+  ResetInput();
+  TheSettingsHooks.applyScreenSize = ApplyScreenSize;
+  TheSettingsHooks.collectPanelState = CollectPanelState;
+
+  const int result = RunWithConsole(argc, argv);
+
+  delete Console;
+  Console = nullptr;
+  Panels = nullptr;
+  return result;
+}

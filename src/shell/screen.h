@@ -1,0 +1,23 @@
+// The screen's size and the panels' windows on it.
+#pragma once
+
+#include "shell/shell.h"
+
+// Reads the console's size back and works out what follows from it.
+void UpdateGeometry();
+void ApplyScreenSize(int rows, int columns);
+// After a change of size: every visible panel gets a new window.
+void RebuildScreen();
+
+void MakePanelWindow(TPanel& panel, int side);
+void HidePanel(TPanel& panel);
+
+// Puts the panels back over the console text, or takes them off. True if a
+// panel was painted anew, so that its cursor bar is gone.
+bool ShowPanels(bool show);
+
+// Gives the mouse to the console text while no panel is shown.
+void UpdateSelectableRegion();
+
+// Number formats, the code page and the case tables of the locale.
+void SetupLocale();
