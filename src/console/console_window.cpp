@@ -1,0 +1,212 @@
+// Life of the window, and cells turned into pixels. Start at DrawCells().
+#include "console/console_window.h"
+
+#include <gtkmm/main.h>
+
+#include <algorithm>
+
+#include "console/screen_size.h"
+#include "console/toolkit_lock.h"
+
+namespace {
+
+constexpr ScreenSize kFirstSize{80, 25};
+constexpr int kFirstFontSize = 12;
+constexpr int kMostFontSize = 1000;  // where shrinking begins
+constexpr int kFirstCodePage = 850;
+constexpr uint8_t kFirstAttribute = 7;
+constexpr int kFirstCursorSize = 15;
+
+constexpr int kEvents = GDK_BUTTON_MOTION_MASK | GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK |
+                        GDK_KEY_PRESS_MASK | GDK_KEY_RELEASE_MASK;
+
+// Runs in the loop itself: a quit from outside is lost when the loop has been
+// made but does not yet turn.
+gboolean QuitLoop(gpointer) {
+  gtk_main_quit();
+  return FALSE;
+}
+
+}  // namespace
+
+// ---- life --------------------------------------------------------------------
+
+CConsoleWindow::CConsoleWindow()
+    : grid(kFirstSize.columns, kFirstSize.rows),
+      fontFamily("DejaVu Sans Mono"),
+      fontSize(kFirstFontSize),
+      codePage(kFirstCodePage),
+      cursorSize(kFirstCursorSize),
+      defaultAttribute(kFirstAttribute) {
+  add_events(static_cast<Gdk::EventMask>(kEvents));
+  set_resizable(false);
+  Layout(kFirstSize.columns, kFirstSize.rows, fontSize);
+  add(area);
+  area.show();
+}
+
+CConsoleWindow::~CConsoleWindow() {
+  if (inputMethod != nullptr) gtk_im_context_set_client_window(inputMethod.get(), nullptr);
+}
+
+void CConsoleWindow::StartGui() { gui = std::thread(&CConsoleWindow::RunGui, this); }
+
+void CConsoleWindow::RunGui() {
+  blink.Start([this] {
+    ToolkitLock lock;
+    if (cursorSize > 0) DrawCursorCell();
+  });
+  {
+    ToolkitLock lock;
+    Gtk::Main::run(*this);
+  }
+  blink.Stop();
+}
+
+void CConsoleWindow::StopGui() {
+  {
+    ToolkitLock lock;
+    gdk_threads_add_idle_full(G_PRIORITY_DEFAULT, QuitLoop, nullptr, nullptr);
+  }
+  gui.join();
+}
+
+// ---- size --------------------------------------------------------------------
+
+void CConsoleWindow::SetScreen(int columns, int rows, const Estring& family, int points) {
+  ToolkitCall call;
+  if (!family.IsEmpty() && g_utf8_validate(family.Text(), -1, nullptr)) fontFamily = family;
+  Layout(columns < 1 ? grid.Columns() : columns, rows < 1 ? grid.Rows() : rows, points < 1 ? fontSize : points);
+}
+
+// A font too large for any usable screen is made smaller; after that the
+// screen is cut to what fits.
+void CConsoleWindow::Layout(int columns, int rows, int points) {
+  const ScreenSize usable{std::min(columns, kFirstSize.columns), std::min(rows, kFirstSize.rows)};
+  for (points = std::min(points, kMostFontSize); true; points = points * 3 / 4) {
+    painter.SetFont(*this, fontFamily, points);
+    const ScreenSize fitting = BoundScreen(usable, painter.CellWidth(), painter.CellHeight());
+    if (points == 1 || (fitting.columns == usable.columns && fitting.rows == usable.rows)) break;
+  }
+  const ScreenSize size = BoundScreen({columns, rows}, painter.CellWidth(), painter.CellHeight());
+  fontSize = points;
+  grid.Reset(size.columns, size.rows);
+  selection.Clear();
+  const int width = size.columns * painter.CellWidth(), height = size.rows * painter.CellHeight();
+  area.SetPicture(width, height);
+  resize(width, height);
+}
+
+// ---- drawing -----------------------------------------------------------------
+
+void CConsoleWindow::DrawCells(const CellRect& block) {
+  cairo_t* cairo = area.Picture();
+  for (int y = block.top; y <= block.bottom; ++y) DrawCellRow(cairo, block, y);
+  if (IsCursorIn(block) && cursorSize > 0 && blink.IsCursorPhase()) {
+    painter.DrawCursor(cairo, cursorX * painter.CellWidth(), cursorY * painter.CellHeight(), cursorSize,
+                       grid.At(cursorX, cursorY).attribute);
+  }
+  area.queue_draw_area(block.left * painter.CellWidth(), block.top * painter.CellHeight(),
+                       (block.right - block.left + 1) * painter.CellWidth(),
+                       (block.bottom - block.top + 1) * painter.CellHeight());
+}
+
+void CConsoleWindow::DrawCellRow(cairo_t* cairo, const CellRect& block, int y) {
+  rowInWork.assign(grid.Row(y) + block.left, grid.Row(y) + block.right + 1);
+  const CellRect selected = Intersection(selection.Selected(), {block.left, y, block.right, y});
+  for (int x = selected.left; x <= selected.right; ++x) {
+    uint8_t& attribute = rowInWork[x - block.left].attribute;
+    attribute = SwapNibbles(attribute);
+  }
+  painter.DrawRow(cairo, rowInWork.data(), static_cast<int>(rowInWork.size()), block.left * painter.CellWidth(),
+                  y * painter.CellHeight());
+}
+
+bool CConsoleWindow::IsCursorIn(const CellRect& block) const { return block.Contains(cursorX, cursorY); }
+
+void CConsoleWindow::Repaint(const CellRect& block) {
+  const CellRect visible = Intersection(block, grid.Bounds());
+  if (!visible.IsEmpty()) DrawCells(visible);
+}
+
+void CConsoleWindow::Invalidate(const CellRect& changed) {
+  if (changed.IsEmpty()) return;
+  if (batch.IsOpen()) {
+    batch.Add(changed);
+    return;
+  }
+  ToolkitLock lock;
+  Repaint(changed);
+  ++drawCount;
+}
+
+void CConsoleWindow::EndUpdate() {
+  const CellRect dirty = batch.End();
+  if (!dirty.IsEmpty()) Invalidate(dirty);
+}
+
+void CConsoleWindow::SetCursor(int x, int y) {
+  blink.Restart();
+  if (x == cursorX && y == cursorY) return;
+  const CellRect old{cursorX, cursorY, cursorX, cursorY};
+  {
+    ToolkitLock lock;
+    cursorX = x;
+    cursorY = y;
+  }
+  if (cursorSize == 0) return;
+  Invalidate(old);
+  Invalidate({x, y, x, y});
+}
+
+void CConsoleWindow::SetCursorSize(int percent) {
+  blink.Restart();
+  percent = std::clamp(percent, 0, 100);
+  if (percent == cursorSize) return;
+  {
+    ToolkitLock lock;
+    cursorSize = percent;
+  }
+  Invalidate({cursorX, cursorY, cursorX, cursorY});
+}
+
+void CConsoleWindow::Scroll(const CellRect& block, int lines, uint8_t attribute) {
+  ToolkitLock lock;
+  const int size = cursorSize;
+  if (IsCursorIn(block) && size > 0) {
+    cursorSize = 0;  // or its picture would move along
+    DrawCursorCell();
+    cursorSize = size;
+  }
+  grid.Scroll(block, lines, attribute);
+  batch.AddScrolled(block, lines);
+
+  const CellRect source = ScrollSource(block, lines), target = ScrollTarget(block, lines);
+  if (!source.IsEmpty()) {
+    const int width = painter.CellWidth(), height = painter.CellHeight();
+    area.CopyPicture(source.left * width, source.top * height, target.left * width, target.top * height,
+                     (source.right - source.left + 1) * width, (source.bottom - source.top + 1) * height);
+    area.queue_draw_area(target.left * width, target.top * height, (target.right - target.left + 1) * width,
+                         (target.bottom - target.top + 1) * height);
+  }
+  Repaint(ScrollVacated(block, lines));
+  ++drawCount;
+
+  // The selection and the cursor stay where they are on the screen.
+  CellRect selected = Intersection(selection.Selected(), block);
+  if (!selected.IsEmpty()) {
+    Repaint(selected);
+    selected.top -= lines;
+    selected.bottom -= lines;
+    Repaint(Intersection(selected, block));
+  }
+  if (IsCursorIn(block) && size > 0) DrawCursorCell();
+}
+
+void CConsoleWindow::SetSelectableRegion(const CellRect& region) {
+  ToolkitLock lock;
+  const CellRect selected = selection.Selected();
+  selection.Clear();
+  selection.SetRegion(region);
+  Repaint(selected);
+}

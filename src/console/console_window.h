@@ -1,0 +1,118 @@
+// The window of the console: the only widget of the program. Members marked
+// "application" are called by CConsole from the application thread and take
+// the toolkit's lock themselves; handlers run in the GUI thread, under it.
+#pragma once
+
+#include <gtkmm/drawingarea.h>
+#include <gtkmm/window.h>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+
+#include "console/blink_thread.h"
+#include "console/cell_grid.h"
+#include "console/cell_painter.h"
+#include "console/event_queue.h"
+#include "console/key_codes.h"
+#include "console/selection.h"
+#include "console/update_batch.h"
+
+class CTerminal;
+
+struct CairoRelease {
+  void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
+};
+
+// Shows the picture of the grid, which is drawn off the screen.
+class CConsoleDrawingArea : public Gtk::DrawingArea {
+ public:
+  CConsoleDrawingArea();
+
+  // Makes the picture forget all and take a new size in pixels.
+  void SetPicture(int width, int height);
+  // The picture to draw on; made black at its first use.
+  cairo_t* Picture();
+  void CopyPicture(int fromX, int fromY, int toX, int toY, int width, int height);
+
+ private:
+  bool on_expose_event(GdkEventExpose* event) override;
+
+  int pictureWidth = 0, pictureHeight = 0;
+  std::unique_ptr<GdkPixmap, ObjectRelease> picture;
+  std::unique_ptr<GdkGC, ObjectRelease> copier;
+  std::unique_ptr<cairo_t, CairoRelease> cairo;
+};
+
+class CConsoleWindow : public Gtk::Window {
+ public:
+  CConsoleWindow();
+  ~CConsoleWindow() override;
+
+  void StartGui();  // application
+  void StopGui();   // application; joins the thread
+
+  // Application. An empty family and sizes below 1 stay as they were.
+  void SetScreen(int columns, int rows, const Estring& family, int points);
+  void SetCursor(int x, int y);
+  void SetCursorSize(int percent);
+  // Application: draws what a write changed, now or at the end of the batch.
+  void Invalidate(const CellRect& changed);
+  void EndUpdate();
+  // Application: moves the rows of a block, cells and picture.
+  void Scroll(const CellRect& block, int lines, uint8_t attribute);
+  void SetSelectableRegion(const CellRect& region);
+
+  // The screen, for CConsole.
+  CellGrid grid;
+  UpdateBatch batch;
+  Selection selection;
+  CEventQueue events;
+  Estring fontFamily;
+  int fontSize;
+  int codePage;
+  int cursorX = 0, cursorY = 0;
+  int cursorSize = 0;
+  uint8_t defaultAttribute;
+  std::atomic<uint64_t> drawCount{0};
+
+ private:
+  void RunGui();
+
+  // Under the lock.
+  void Layout(int columns, int rows, int points);
+  void DrawCells(const CellRect& block);
+  void DrawCellRow(cairo_t* cairo, const CellRect& block, int y);
+  void Repaint(const CellRect& block);
+  void DrawCursorCell() { Repaint({cursorX, cursorY, cursorX, cursorY}); }
+  bool IsCursorIn(const CellRect& block) const;
+  // Cells of the window's pixels, cut towards zero.
+  int CellX(double x) const { return static_cast<int>(x) / painter.CellWidth(); }
+  int CellY(double y) const { return static_cast<int>(y) / painter.CellHeight(); }
+
+  // Handlers.
+  bool on_key_press_event(GdkEventKey* event) override;
+  bool on_key_release_event(GdkEventKey* event) override;
+  bool on_button_press_event(GdkEventButton* event) override;
+  bool on_button_release_event(GdkEventButton* event) override;
+  bool on_motion_notify_event(GdkEventMotion* event) override;
+  bool on_scroll_event(GdkEventScroll* event) override;
+  bool on_delete_event(GdkEventAny* event) override;
+  bool on_focus_in_event(GdkEventFocus* event) override;
+  bool on_focus_out_event(GdkEventFocus* event) override;
+  void HandleKey(GdkEventKey* event);
+  void MakeInputMethod();
+  void OfferToInputMethod(GdkEventKey* event);
+  static void OnCommit(GtkIMContext* context, const gchar* utf8, gpointer window);
+  void QueueKey(Key code, uint32_t modifiers, uint32_t hardware);
+  void QueueMouse(EventType type, int code, uint32_t modifiers, double x, double y);
+  void CopySelection();
+
+  CConsoleDrawingArea area;
+  CellPainter painter;
+  std::unique_ptr<GtkIMContext, ObjectRelease> inputMethod;
+  CTerminal* terminal = nullptr;  // takes keys and text while a child runs
+  BlinkThread blink;
+  std::thread gui;
+  std::vector<Cell> rowInWork;
+};

@@ -1,0 +1,44 @@
+// The picture of the grid and its way to the window.
+#include "console/console_window.h"
+
+CConsoleDrawingArea::CConsoleDrawingArea() {
+  set_double_buffered(false);  // the picture is the buffer
+  modify_bg(Gtk::STATE_NORMAL, Gdk::Color("black"));
+}
+
+void CConsoleDrawingArea::SetPicture(int width, int height) {
+  cairo.reset();
+  copier.reset();
+  picture.reset();
+  pictureWidth = width;
+  pictureHeight = height;
+  set_size_request(width, height);
+}
+
+cairo_t* CConsoleDrawingArea::Picture() {
+  if (cairo != nullptr) return cairo.get();
+  GtkWidget* widget = GTK_WIDGET(gobj());
+  if (gtk_widget_get_window(widget) == nullptr) gtk_widget_realize(widget);
+  picture.reset(gdk_pixmap_new(gtk_widget_get_window(widget), pictureWidth, pictureHeight, -1));
+  copier.reset(gdk_gc_new(GDK_DRAWABLE(picture.get())));
+  cairo.reset(gdk_cairo_create(GDK_DRAWABLE(picture.get())));
+  cairo_set_source_rgb(cairo.get(), 0, 0, 0);
+  cairo_paint(cairo.get());
+  return cairo.get();
+}
+
+void CConsoleDrawingArea::CopyPicture(int fromX, int fromY, int toX, int toY, int width, int height) {
+  cairo_surface_t* surface = cairo_get_target(Picture());
+  GdkDrawable* drawable = GDK_DRAWABLE(picture.get());
+  cairo_surface_flush(surface);
+  gdk_draw_drawable(drawable, copier.get(), drawable, fromX, fromY, toX, toY, width, height);
+  cairo_surface_mark_dirty(surface);
+}
+
+bool CConsoleDrawingArea::on_expose_event(GdkEventExpose* event) {
+  cairo_surface_flush(cairo_get_target(Picture()));
+  const GdkRectangle& place = event->area;
+  gdk_draw_drawable(event->window, copier.get(), GDK_DRAWABLE(picture.get()), place.x, place.y, place.x,
+                    place.y, place.width, place.height);
+  return true;
+}
