@@ -12,7 +12,7 @@ Toolkit::Toolkit(int& argc, char**& argv) {
 // Older versions of the thread library needed it, newer ones ignore it.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-  if (!g_thread_supported()) g_thread_init(nullptr);
+  g_thread_init(nullptr);
 #pragma GCC diagnostic pop
   gdk_threads_init();
   // The wrapper ends the process if there is no display; this asks first.
