@@ -45,8 +45,7 @@ void TextBuffer<Char>::Reserve(int n) {
 }
 
 template <class Char>
-bool TextBuffer<Char>::Grow(int n) {
-  if (capacity > n) return false;
+void TextBuffer<Char>::Enlarge(int n) {
   const int64_t wanted = int64_t{n} + n / 4 + 1;
   const auto grown = static_cast<int32_t>(std::min<int64_t>(wanted, kMaxLength + 1));
   Char* const fresh = new Char[grown];
@@ -55,7 +54,6 @@ bool TextBuffer<Char>::Grow(int n) {
   p = fresh;
   capacity = grown;
   p[capacity - 1] = 0;
-  return true;
 }
 
 template <class Char>

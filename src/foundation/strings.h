@@ -34,7 +34,11 @@ class TextBuffer {
 
   // Makes room for element index n with n / 4 to spare and keeps the text.
   // True if the buffer moved, so that pointers into it must be taken anew.
-  bool Grow(int n);
+  bool Grow(int n) {
+    if (capacity > n) return false;
+    Enlarge(n);
+    return true;
+  }
 
  protected:
   // The last element is what a wild index reads, so it has a value as well.
@@ -60,6 +64,7 @@ class TextBuffer {
 
  private:
   void Replace(int64_t elements);  // a new buffer with nothing in it
+  void Enlarge(int n);
 };
 
 extern template class TextBuffer<char>;
@@ -77,8 +82,8 @@ class Estring : public TextBuffer<char> {
   Estring& operator=(Estring&& other);
   void Assign(const char* text, int n) { AssignText(text, n); }
 
-  static Estring Reserved(int n);           // empty, room for n characters
-  static Estring FromLong(long value);      // decimal
+  static Estring Reserved(int n);            // empty, room for n characters
+  static Estring FromLong(long value);       // decimal
   static Estring Replicate(char ch, int n);  // a negative n counts as 0
   // printf formatting, cut at 1023 characters.
   static Estring Format(const char* format, ...) __attribute__((format(printf, 1, 2)));
@@ -98,8 +103,8 @@ class Westring : public TextBuffer<wchar_t> {
   Westring() = default;
   Westring(const wchar_t* text) { AssignText(text); }
   Westring(const wchar_t* text, int n) { AssignText(text, n); }
-  Westring(const char* utf8);                // see FromUtf8
-  explicit Westring(const Estring& bytes);   // each byte is a code point 0 to 255
+  Westring(const char* utf8);                 // see FromUtf8
+  explicit Westring(const Estring& bytes);    // each byte is a code point 0 to 255
   Westring(const char* bytes, int codePage);  // see code_pages.h
   Westring(const Westring& other) : TextBuffer() { AssignText(other.p); }
   Westring(Westring&& other) : TextBuffer() { Take(other); }
@@ -128,7 +133,7 @@ class Westring : public TextBuffer<wchar_t> {
 int Length(const Estring& s);
 int Length(const Westring& s);
 
-Estring ToUtf8(const Westring& s);    // what every system call with a path takes
+Estring ToUtf8(const Westring& s);  // what every system call with a path takes
 Estring ToUtf8(const wchar_t* text);
 Estring ToNarrow(const Westring& s);  // each element cut to 8 bits
 
@@ -155,8 +160,8 @@ Westring LJust(const Westring& s, int width, wchar_t fill = L' ');
 Estring RJust(const Estring& s, int width, char fill = ' ');
 Westring RJust(const Westring& s, int width, wchar_t fill = L' ');
 
-// Drops one closing "/", except from "//" and from two-slash texts of up to
-// three characters. "/" becomes the empty string.
+// Drops one closing "/", except from a text of up to three characters whose
+// second is "/", so "//" and "a/" stay. "/" becomes the empty string.
 Estring RemoveTrailingSlash(const Estring& s);
 Westring RemoveTrailingSlash(const Westring& s);
 // Adds "/" unless there is one; the empty string stays empty.
