@@ -1,0 +1,12 @@
+// Numbers for fields of a limited width, with the locale's separators.
+#pragma once
+
+#include <cstdint>
+
+#include "foundation/strings.h"
+
+// At most width characters: whole where it fits, else in K, M, G or T.
+Westring FormatSize(uint64_t value, int width);
+
+// For counts and rates: at most 11 digits, and only K and M.
+Westring FormatCount(uint64_t value, int width);
