@@ -1,0 +1,26 @@
+// The mounted file systems.
+#pragma once
+
+#include "foundation/collections.h"
+
+struct TMountPoint {
+  Westring device;
+  Westring mountPoint;
+  Westring fileSystem;
+};
+
+class CMountPointList : public TObjectStore<TMountPoint> {};
+
+// Reads the mount table in its order. Without all, "tmpfs" and file systems
+// with no blocks are left out. False if the table can't be read.
+bool ReadMounts(CMountPointList& list, bool all);
+
+// The same from any file in the form of the mount table.
+bool ReadMountTable(const char* table, CMountPointList& list, bool all);
+
+// The longest mount point that holds path; false if there is none.
+bool FindMount(const Westring& path, Westring& fileSystem, Westring& mountPoint);
+
+// The same in a list at hand; null if there is none. Of two mounts on one point
+// the first.
+const TMountPoint* FindMountIn(const CMountPointList& list, const Westring& path);
