@@ -1,0 +1,21 @@
+// Where the program's files are.
+#pragma once
+
+#include "foundation/strings.h"
+
+enum DataFile {
+  kHelpFile = 0,
+  kManualFile = 1,
+  kMenuFile = 2,
+  kSettingsFile = 3,
+  kHistoryFile = 4,
+  kLogFile = 5,
+  kSyntaxFile = 6,
+};
+
+// shared picks the syntax file under the shared directory; otherwise the
+// user's own. Only that kind looks at it.
+Westring DataFilePath(DataFile kind, bool shared = false);
+
+// The directory of the user's settings, with its closing slash.
+Westring SettingsDirectory();
