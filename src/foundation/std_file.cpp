@@ -104,12 +104,15 @@ int StdFile::FlushBuffer() {
   return ENOSPC;
 }
 
+// -1 at the end of the file. What was read before stays for a seek back until
+// there is something new.
 int StdFile::Fill() {
   const ssize_t got = Uninterrupted([&] { return read(fd, buffer.get(), kBufferSize); });
+  if (got <= 0) return got < 0 ? errno : -1;
   bufferPosition = 0;
-  bufferFill = std::max<ssize_t>(got, 0);
-  filePosition += bufferFill;
-  return got < 0 ? errno : 0;
+  bufferFill = got;
+  filePosition += got;
+  return 0;
 }
 
 int StdFile::MoveFile(int64_t offset) {
@@ -146,9 +149,9 @@ int StdFile::Read(void* target, size_t n, size_t* read) {
   int code = SwitchToReading();
   if (code == 0) code = ReadBytes(static_cast<char*>(target), n, got);
   if (read) *read = got;
-  // A caller that is told the count takes what came; the error comes again.
-  if (code != 0 && (got == 0 || !read)) return Fail(code);
-  return Fail(got == 0 && n > 0 ? -1 : 0);
+  // A caller that is told the count takes what came; an error will come again.
+  if (got > 0 && (read || code == -1)) code = 0;
+  return Fail(code);
 }
 
 int StdFile::ReadBytes(char* target, size_t n, size_t& got) {
@@ -156,8 +159,7 @@ int StdFile::ReadBytes(char* target, size_t n, size_t& got) {
     const size_t wanted = n - got;
     if (bufferPosition == bufferFill && wanted >= kBufferSize) {
       const ssize_t direct = Uninterrupted([&] { return read(fd, target + got, wanted); });
-      if (direct < 0) return errno;
-      if (direct == 0) return 0;
+      if (direct <= 0) return direct < 0 ? errno : -1;
       bufferPosition = 0;
       bufferFill = 0;
       filePosition += direct;
@@ -166,7 +168,6 @@ int StdFile::ReadBytes(char* target, size_t n, size_t& got) {
     }
     if (bufferPosition == bufferFill)
       if (const int code = Fill()) return code;
-    if (bufferFill == 0) return 0;
     const size_t part = std::min(wanted, static_cast<size_t>(bufferFill - bufferPosition));
     memcpy(target + got, buffer.get() + bufferPosition, part);
     bufferPosition += static_cast<int32_t>(part);
@@ -182,7 +183,6 @@ int StdFile::ReadLine(char* target, int size) {
   int code = SwitchToReading();
   while (code == 0 && !ended && length < size - 1) {
     if (bufferPosition == bufferFill) code = Fill();
-    if (code == 0 && bufferFill == 0) code = -1;
     if (code != 0) break;
     const char* start = buffer.get() + bufferPosition;
     size_t part = static_cast<size_t>(std::min<int64_t>(bufferFill - bufferPosition, size - 1 - length));

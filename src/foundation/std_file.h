@@ -70,7 +70,7 @@ class StdFile {
   int MoveFile(int64_t offset);  // moves the system's position and empties the buffer
   int Fill();
   int FlushBuffer();
-  int ReadBytes(char* target, size_t n, size_t& got);
+  int ReadBytes(char* target, size_t n, size_t& got);  // -1 if the file ends first
   int WriteBytes(const char* data, size_t n);
   int Fail(int code) { return error = code; }
 
