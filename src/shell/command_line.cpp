@@ -38,9 +38,12 @@ void Erase(Shell& shell, int from, int to) {
 
 // Line ends and tabs of pasted text would show as glyphs and mean nothing here.
 Westring OneLine(const Westring& text) {
-  Westring result = Trim(text);
-  for (wchar_t* p = result.Text(); *p; ++p)
-    if (*p == L'\n' || *p == L'\r' || *p == L'\t') *p = L' ';
+  Westring result;
+  for (const wchar_t* p = text.Text(); *p; ++p) {
+    if (*p == L'\r' && p[1] == L'\n') continue;
+    const bool isBreak = *p == L'\n' || *p == L'\r' || *p == L'\t';
+    result += isBreak ? L' ' : *p;
+  }
   return result;
 }
 
@@ -53,9 +56,9 @@ void SetCommandLine(Shell& shell, const Westring& text) {
 
 void EmptyCommandLine(Shell& shell) { SetCommandLine(shell, L""); }
 
-bool InsertText(Shell& shell, const Westring& text) {
+bool InsertText(Shell& shell, const Westring& text, int most) {
   const int added = Length(text);
-  if (Length(shell.commandLine) + added > kMaxCommandLine) return false;
+  if (Length(shell.commandLine) + added > most) return false;
   const Westring& line = shell.commandLine;
   shell.commandLine = Left(line, shell.commandCursor) + text + (line.Text() + shell.commandCursor);
   shell.commandCursor += added;
@@ -74,6 +77,15 @@ bool InsertAtCursor(Shell& shell, const Westring& text) {
   return InsertText(shell, inserted);
 }
 
+LineView FitLine(LineView view, int length, int promptWidth, int columns) {
+  constexpr int kKeptInView = 40;
+  view.cursor = std::min(view.cursor, length);
+  if (view.scroll >= length - kKeptInView) view.scroll = std::max(0, length - kKeptInView);
+  view.scroll = std::min(view.scroll, view.cursor);
+  view.scroll = std::max(view.scroll, view.cursor - columns + promptWidth + 1);
+  return view;
+}
+
 Westring PromptText() {
   const TPanel& active = ActivePanel();
   const TPanel& shown = active.IsFiles() && !active.IsTree() ? active : OtherPanel();
@@ -82,15 +94,12 @@ Westring PromptText() {
 }
 
 void PaintCommandLine(Shell& shell) {
-  const int length = Length(shell.commandLine);
-  shell.commandCursor = std::min(shell.commandCursor, length);
-  if (shell.commandScroll >= length - 40) shell.commandScroll = std::max(0, length - 40);
   const Westring prompt = PromptText();
   shell.promptWidth = Length(prompt);
-  shell.commandScroll = std::min(shell.commandScroll, shell.commandCursor);
-  const int leastScroll = shell.commandCursor - ScreenColumns + shell.promptWidth + 1;
-  shell.commandScroll = std::max({shell.commandScroll, leastScroll, 0});
-
+  const LineView view = FitLine({shell.commandCursor, shell.commandScroll}, Length(shell.commandLine),
+                                shell.promptWidth, ScreenColumns);
+  shell.commandCursor = view.cursor;
+  shell.commandScroll = view.scroll;
   const Westring row = LJust(prompt + (shell.commandLine.Text() + shell.commandScroll), ScreenColumns);
   Console->PutString(0, ScreenRows - 2, row.Text(), Options::Colours[kColourCommandLine]);
 }
@@ -100,7 +109,8 @@ void PlaceCommandCursor(const Shell& shell) {
 }
 
 int TypeCharacter(Shell& shell) {
-  return InsertText(shell, Westring::Replicate(static_cast<wchar_t>(shell.key), 1)) ? kRedrawLine : kRedrawNothing;
+  const Westring typed = Westring::Replicate(static_cast<wchar_t>(shell.key), 1);
+  return InsertText(shell, typed, kMaxTypedLine) ? kRedrawLine : kRedrawNothing;
 }
 
 int DeleteAtCursor(Shell& shell) {

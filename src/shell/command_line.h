@@ -10,11 +10,25 @@ int WordEnd(const wchar_t* text, bool briefWordRight);  // how far Ctrl-Right go
 void SetCommandLine(Shell& shell, const Westring& text);  // cursor to the end
 void EmptyCommandLine(Shell& shell);
 
-// Puts text in at the cursor if the line then holds at most kMaxCommandLine
+// Characters of the line. Typing may fill it to the last place; what is put in
+// as a whole leaves one free.
+constexpr int kMaxTypedLine = 512;
+constexpr int kMaxInsertedLine = 511;
+
+// Puts text in at the cursor if the line then holds at most that many
 // characters. Tells whether it did.
-bool InsertText(Shell& shell, const Westring& text);
+bool InsertText(Shell& shell, const Westring& text, int most = kMaxInsertedLine);
 // The same with text quoted for the shell and for macros, and a blank behind it.
 bool InsertAtCursor(Shell& shell, const Westring& text);
+
+// What part of the line is in view.
+struct LineView {
+  int cursor = 0;  // in the line
+  int scroll = 0;  // first character shown
+};
+// The view that keeps the cursor between the prompt and the screen's last column,
+// and a long line's last 40 characters from being scrolled out on the left.
+LineView FitLine(LineView view, int length, int promptWidth, int columns);
 
 // The prompt in front of the line.
 Westring PromptText();

@@ -18,8 +18,6 @@ struct InfoMemory {
   bool broughtUp[2] = {false, false};
 };
 
-constexpr int kMaxCommandLine = 511;
-
 struct Shell {
   Westring commandLine;
   int commandCursor = 0;
