@@ -27,7 +27,8 @@ bool IsPress(const TMouseEvent& mouse) {
   return mouse.kind == kMouseLeftPress || mouse.kind == kMouseRightPress;
 }
 
-bool ScrollsAt(int y) { return y == 0 || (y > PanelRows && y <= PanelRows + kRowsBelowList); }
+bool IsAboveList(int y) { return y == 0; }
+bool IsBelowList(int y) { return y > PanelRows && y <= PanelRows + kRowsBelowList; }
 
 void ClearSearch(TPanel& panel) { panel.quickSearch[0] = 0; }
 
@@ -105,26 +106,27 @@ void Sleep(int milliseconds) {
 }
 
 // True if the waiting event ends the scrolling.
-bool EndsScroll(Shell& shell, bool tagging) {
+bool EndsScroll(Shell& shell, bool upward, bool tagging) {
   bool timedOut = false;
   if (ReadKey(timedOut, &shell.mouse, 0) != kMouseKey) return false;
   const int release = tagging ? kMouseRightRelease : kMouseLeftRelease;
   if (shell.mouse.kind == release) return true;
-  return !IsRelease(shell.mouse) && shell.mouse.kind != kMouseWheel && !ScrollsAt(shell.mouse.y);
+  if (IsRelease(shell.mouse) || shell.mouse.kind == kMouseWheel) return false;
+  return upward ? !IsAboveList(shell.mouse.y) : !IsBelowList(shell.mouse.y);
 }
 
 // Moves the cursor as long as the button is held at the list's end.
-void AutoScroll(Shell& shell, TPanel& panel, int y, int tag) {
+void AutoScroll(Shell& shell, TPanel& panel, bool upward, int tag) {
   const int side = static_cast<int>(ActiveSide);
   for (;;) {
     const int before = panel.CurrentIndex(), top = panel.topIndex;
     DrawCursor(side, false);
-    MoveCursor(panel, y < 1 ? -1 : 1);
+    MoveCursor(panel, upward ? -1 : 1);
     if (panel.CurrentIndex() == before) break;
     if (tag) Tag(panel, panel.CurrentIndex(), tag);
     DrawCursor(side, true);
     if (panel.topIndex != top && Options::ScrollDelay > 0) Sleep(Options::ScrollDelay);
-    if (KeyPending() && EndsScroll(shell, tag != 0)) break;
+    if (KeyPending() && EndsScroll(shell, upward, tag != 0)) break;
   }
   shell.dragIndex = panel.CurrentIndex();
   shell.cursorDirty = true;
@@ -134,11 +136,11 @@ void ActAtListEnd(Shell& shell) {
   if (!TakePanelUnder(shell)) return;
   TPanel& panel = ActivePanel();
   if (!panel.IsVisibleFiles() || panel.count == 0) return;
-  const int y = shell.mouse.y;
-  const int last = y < 1 ? 0 : panel.count - 1;
+  const bool upward = IsAboveList(shell.mouse.y);
+  const int last = upward ? 0 : panel.count - 1;
   if (panel.CurrentIndex() == last || shell.mouse.kind == kMouseRightPress) return;
   ClearSearch(panel);
-  AutoScroll(shell, panel, y, shell.mouse.kind == kMouseRightDrag ? shell.dragValue : 0);
+  AutoScroll(shell, panel, upward, shell.mouse.kind == kMouseRightDrag ? shell.dragValue : 0);
 }
 
 }  // namespace
@@ -170,7 +172,7 @@ void DispatchMouse(Shell& shell) {
     shell.key = FKey(9);
   } else if (mouse.y >= 1 && mouse.y <= PanelRows) {
     ActInList(shell);
-  } else if (ScrollsAt(mouse.y)) {
+  } else if (IsAboveList(mouse.y) || IsBelowList(mouse.y)) {
     ActAtListEnd(shell);
   }
 }
