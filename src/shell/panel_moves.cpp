@@ -84,6 +84,7 @@ bool MovesByColumns(const TPanel& panel) {
 int GoRight(Shell& shell) {
   TPanel& panel = ActivePanel();
   if (!MovesByColumns(panel)) return CursorRight(shell);
+  panel.quickSearch[0] = 0;
   const int rows = PanelRows;
   if (panel.CurrentIndex() + rows >= panel.count || rows + panel.cursorRow < panel.visibleEntries) {
     MoveCursor(panel, rows);
@@ -97,6 +98,7 @@ int GoRight(Shell& shell) {
 int GoLeft(Shell& shell) {
   TPanel& panel = ActivePanel();
   if (!MovesByColumns(panel)) return CursorLeft(shell);
+  panel.quickSearch[0] = 0;
   const int rows = PanelRows;
   if (panel.topIndex >= rows && rows > panel.cursorRow) {
     panel.topIndex -= rows;

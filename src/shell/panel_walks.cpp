@@ -1,7 +1,5 @@
 // Taking the active panel to another directory, and its names to the command
 // line.
-#include <unistd.h>
-
 #include <cwchar>
 #include <cwctype>
 
@@ -12,6 +10,7 @@
 #include "foundation/paths.h"
 #include "panels/draw_panel.h"
 #include "panels/navigation.h"
+#include "panels/panel_path.h"
 #include "panels/read_panel.h"
 #include "shell/command_line.h"
 #include "shell/history.h"
@@ -29,11 +28,10 @@ void LeaveArchives(TPanel& panel, int side) {
   const ArchiveLevel* outermost = panel.archive.get();
   while (outermost->parent) outermost = outermost->parent.get();
   const Westring file = outermost->Path();
-  const Westring directory = PathPart(file);
-  CopyText(panel.path, directory.IsEmpty() ? L"/" : directory.Text());
+  CopyText(panel.path, ParentPath(file.Text()).Text());
   panel.archive.reset();
   EnterAtTop(side);
-  PositionOn(panel, NamePart(file).Text());
+  PositionOn(panel, LastComponent(file.Text()));
 }
 
 int ActiveSideNumber() { return static_cast<int>(ActiveSide); }
@@ -96,14 +94,13 @@ int GoToLinkTarget(Shell& shell) {
   Westring target;
   if (!NormalisePath(link, panel.path, target)) return kRedrawNothing;
   const bool isDirectory = e->IsDirectory();
-  Westring directory = isDirectory ? target : PathPart(target);
-  if (directory.IsEmpty()) directory = L"/";
+  const Westring directory = isDirectory ? target : ParentPath(target.Text());
   if (!ChangeDirectory(panel, directory)) {
     Prompt(L"Invalid Directory", directory, kPromptOk);
     return kRedrawNothing;
   }
   EnterAtTop(ActiveSideNumber());
-  if (!isDirectory) PositionOn(panel, NamePart(target).Text());
+  if (!isDirectory) PositionOn(panel, LastComponent(target.Text()));
   return kRedrawAll;
 }
 
@@ -144,8 +141,7 @@ int ToggleHidden(Shell& shell) {
   Options::Hidden = !Options::Hidden;
   for (int side = 0; side < 2; ++side)
     if (Panels[side].visible) Enter(side, L"", true, -1, 0);
-  // A directory that is gone leaves the process where it is.
-  if (chdir(ToUtf8(RealDirectory(ActivePanel())).Text()) != 0) return kRedrawNothing;
+  FollowPath(ActivePanel());  // the process stands in the panel read last
   shell.cursorDirty = true;
   return kRedrawNothing;
 }
@@ -198,16 +194,24 @@ int InsertFullPath(Shell& shell) {
   return InsertAtCursor(shell, path) ? kRedrawLine : kRedrawNothing;
 }
 
+namespace {
+
+bool StandsBehindWord(const Shell& shell) {
+  if (shell.commandCursor == 0) return false;
+  const wchar_t before = shell.commandLine[shell.commandCursor - 1];
+  return before > 0 && iswalnum(static_cast<wint_t>(before));
+}
+
+}  // namespace
+
+// A search cuts the line at the cursor, also where it finds nothing.
 int CompleteOrInsert(Shell& shell) {
   const bool backward = shell.key == kCtrlShiftEnter;
-  const int cursor = shell.commandCursor;
-  if (cursor > 0 && cursor <= Length(shell.commandLine)) {
-    const wchar_t before = shell.commandLine[cursor - 1];
-    if (before > 0 && iswalnum(static_cast<wint_t>(before)) && SearchByPrefix(shell, !backward))
-      return kRedrawLine;
-  }
-  if (!backward) return InsertName(shell);
-  if (shell.currentEntry && ActivePanel().IsFiles()) Console->SetClipboardText(shell.currentEntry->name);
+  if (StandsBehindWord(shell) && SearchByPrefix(shell, !backward)) return kRedrawLine;
+  if (!backward)
+    InsertName(shell);
+  else if (shell.currentEntry && ActivePanel().IsFiles())
+    Console->SetClipboardText(shell.currentEntry->name);
   return kRedrawLine;
 }
 
