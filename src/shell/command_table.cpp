@@ -76,7 +76,7 @@ int RunStyleOfActive(Shell& shell) {
 
 template <int side, int style>
 int RunStyle(Shell& shell) {
-  return SetStyle(shell, side, style);
+  return ShowStyle(shell, side, style);
 }
 
 template <int side, int key>
@@ -109,8 +109,8 @@ constexpr CommandRow kCommands[] = {
     {kMenuSelectGroup, kPanelShown | kFilesPanel, nullptr},
     {kMenuUnselectGroup, kPanelShown | kFilesPanel, nullptr},
     {kMenuInvert, kPanelShown | kFilesPanel, nullptr},
-    {kEnter, kEndsSearch, RunEnter},
-    {kAltEnter, kEndsSearch, RunSeparate},
+    {kEnter, 0, RunEnter},
+    {kAltEnter, 0, RunSeparate},
     {kEscape, 0, RunEscape},
     {kCtrlRightBracket, 0, InsertRightPath},
     {kCtrlBackslash, kEndsSearch, GoToRoot},

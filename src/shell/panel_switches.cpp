@@ -82,6 +82,7 @@ int SwapPanels(Shell& shell) {
   }
   SwapPanelRecords(Panels[0], Panels[1]);
   std::swap(Options::LeftSort, Options::RightSort);
+  std::swap(shell.info.broughtUp[0], shell.info.broughtUp[1]);
   ActivateSide(static_cast<int>(ActiveSide ^ 1));
   shell.cursorDirty = true;
   return kRedrawAll;
@@ -102,6 +103,11 @@ int SetStyle(Shell& shell, int side, int style) {
   ActivateSide(static_cast<int>(ActiveSide));
   shell.cursorDirty = true;
   return kRedrawAll;
+}
+
+int ShowStyle(Shell& shell, int side, int style) {
+  const int redraw = SetStyle(shell, side, style);
+  return Panels[side].visible ? redraw : SwitchPanel(shell, side);
 }
 
 int SetPanelSort(Shell& shell, int side, int key) {

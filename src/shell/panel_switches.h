@@ -9,6 +9,8 @@ int SwitchPanel(Shell& shell, int side);
 int SwitchOtherPanel(Shell& shell);
 int SwapPanels(Shell& shell);
 int SetStyle(Shell& shell, int side, int style);
+// The same, and the panel comes up even if it had the style already.
+int ShowStyle(Shell& shell, int side, int style);
 int SetPanelSort(Shell& shell, int side, int key);
 int ReverseSort(Shell& shell, int side);
 // Shows or hides information on the side opposite to side.
