@@ -2,6 +2,7 @@
 // the pass.
 #include "shell/dispatch.h"
 
+#include "config/values/options.h"
 #include "panels/draw_panel.h"
 #include "shell/command_line.h"
 #include "shell/menu_commands.h"
@@ -9,6 +10,12 @@
 #include "shell/panel_commands.h"
 
 namespace {
+
+// By option the grey star is no command of the list but a character.
+bool PlainStarKey(Shell& shell) {
+  if (shell.key == kGreyStar && Options::DisableInvert) shell.key = L'*';
+  return false;
+}
 
 // ---- stored directories ----------------------------------------------------
 
@@ -92,7 +99,7 @@ bool CommandKey(Shell& shell) {
 }
 
 using Layer = bool (*)(Shell&);
-constexpr Layer kLayers[] = {PanelKey, SortKey, TextKey, CommandKey};
+constexpr Layer kLayers[] = {PlainStarKey, PanelKey, SortKey, TextKey, CommandKey};
 
 }  // namespace
 
