@@ -87,7 +87,7 @@ void ApplyPanelSettings(TPanel& panel, int side) {
   ReadPanel(panel);
   panel.style = style;
   panel.panelType = type;
-  if (style != kStyleTree && panel.visible) MakePanelWindow(panel, side);
+  if (panel.visible) MakePanelWindow(panel, side);
 }
 
 void OpenPanels(const Arguments& arguments) {
