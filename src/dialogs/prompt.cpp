@@ -41,12 +41,6 @@ const PromptSet& SetOf(int flags) {
   return kSets[std::min(flags & kSetMask, static_cast<int>(std::size(kSets)) - 1)];
 }
 
-int Answer(const PromptSet& set, int result) {
-  if (set.buttons->code == 0) return kEscape;
-  if (result == kEnter) return 'y';
-  return result < 0 ? ' ' : result;
-}
-
 }  // namespace
 
 int Prompt(const Westring& text, const Westring& detail, int flags) {
@@ -59,7 +53,10 @@ int Prompt(const Westring& text, const Westring& detail, int flags) {
   dialog.PrintCentred(row, layout.detail);
   dialog.SetHotLetters(set.hotLetters, set.hotLetterCount);
   dialog.AddButtons(-1, row + 1, true, set.buttons);
-  return Answer(set, dialog.Run());
+  const int answer = PromptAnswer(dialog.Run());
+  // Whatever ended a box without buttons, nothing was agreed to.
+  const bool hasButtons = set.buttons->code != 0;
+  return hasButtons ? answer : static_cast<int>(kEscape);
 }
 
 int PromptForFile(StdFile* file, const Westring& text, const Westring& detail, int flags) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "console/key_codes.h"
 #include "foundation/paths.h"
 
 namespace {
@@ -55,4 +56,9 @@ PromptLayout LayOutPrompt(const Westring& text, const Westring& detail, int butt
   layout.width = widest + widest % 2 + kMargin;
   layout.height = static_cast<int>(layout.lines.size()) + kRowsAround;
   return layout;
+}
+
+int PromptAnswer(int result) {
+  if (result == kEnter) return 'y';
+  return result < 0 ? ' ' : result;
 }

@@ -18,3 +18,7 @@ struct PromptLayout {
 std::vector<Westring> SplitPromptText(const Westring& text, int screenColumns);
 
 PromptLayout LayOutPrompt(const Westring& text, const Westring& detail, int buttonCells, int screenColumns);
+
+// What the result of a prompt's dialog means: Enter is "y", and a negative one
+// a blank.
+int PromptAnswer(int result);

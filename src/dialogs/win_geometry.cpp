@@ -22,6 +22,8 @@ CellRect PlaceWindow(int left, int top, int right, int bottom, int screenColumns
     window.top = std::max((bottom - screenRows) / top, 0);
     window.bottom = window.top + bottom - 1;
   }
+  window.right = std::max(window.right, window.left);
+  window.bottom = std::max(window.bottom, window.top);
   return window;
 }
 

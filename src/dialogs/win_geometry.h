@@ -9,7 +9,7 @@
 // Turns the corners that a Win is made with into screen cells: a negative left
 // centres a window whose width is right, a negative top puts one whose height
 // is bottom at that fraction of the free rows. A window that is larger than
-// the screen starts in its first row or column.
+// the screen starts in its first row or column; one without a size is a cell.
 CellRect PlaceWindow(int left, int top, int right, int bottom, int screenColumns, int screenRows);
 
 // A shadow takes two columns on the right and a row below; it is thrown whole

@@ -96,4 +96,11 @@ TEST(PromptLayout, ALongDetailIsShortenedAndNotSplit) {
   EXPECT_EQ(layout.height, 5);
 }
 
+TEST(PromptAnswer, EnterIsYesNegativeIsABlankAndAllElseStands) {
+  EXPECT_EQ(PromptAnswer(13), 'y');
+  EXPECT_EQ(PromptAnswer(-1), ' ');
+  EXPECT_EQ(PromptAnswer('a'), 'a');
+  EXPECT_EQ(PromptAnswer(27), 27);
+}
+
 }  // namespace

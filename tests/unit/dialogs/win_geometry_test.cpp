@@ -40,6 +40,11 @@ TEST(WinGeometry, AWindowLargerThanTheScreenStartsAtItsEdge) {
   EXPECT_EQ(Corners(Place(-1, -3, 100, 40)), Corner(0, 0, 99, 39));
 }
 
+TEST(WinGeometry, AWindowWithoutASizeIsACell) {
+  EXPECT_EQ(Corners(Place(5, 5, 3, 4)), Corner(5, 5, 5, 5));
+  EXPECT_EQ(Corners(Place(-1, -2, 0, -9)), Corner(40, 17, 40, 17));
+}
+
 TEST(WinGeometry, AShadowNeedsARowBelowAndTwoColumns) {
   EXPECT_TRUE(HasRoomForShadow({10, 10, kColumns - 3, kRows - 2}, kColumns, kRows));
   EXPECT_FALSE(HasRoomForShadow({10, 10, kColumns - 2, kRows - 2}, kColumns, kRows));
