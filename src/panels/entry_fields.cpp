@@ -41,12 +41,12 @@ int64_t DigitLimit(int digits) {
   return limit;
 }
 
-// Whole, in K or in M. What is too large even then goes on to G and T: a number
-// cut to fit would be a wrong one.
+// Whole, in K or in M. What is too large even then goes on to larger units: a
+// number cut to fit would be a wrong one.
 Westring PlainSize(int64_t size, int width) {
   if (size < DigitLimit(width)) return Westring(Estring::FromLong(size));
-  constexpr wchar_t kUnits[] = L"KMGT";
-  constexpr int kLastUnit = 3;
+  constexpr wchar_t kUnits[] = L"KMGTPE";
+  constexpr int kLastUnit = 5;
   int unit = 0;
   while (unit < kLastUnit && size >> (10 * (unit + 1)) >= DigitLimit(width - 1)) ++unit;
   Westring text(Estring::FromLong(size >> (10 * (unit + 1))));

@@ -31,7 +31,7 @@ void ScrollByOne(TPanel& panel, int step) {
 }
 
 void ScrollFar(TPanel& panel, int distance) {
-  panel.topIndex = std::max(panel.topIndex + distance, 0);
+  panel.topIndex += distance;
   panel.cursorRow -= distance;
   DrawPanel(panel);
 }
@@ -47,10 +47,9 @@ void DrawCursor(int side, bool on) {
 
 void MoveCursor(TPanel& panel, int delta) {
   if (!panel.IsVisibleFiles()) return;
-  const int64_t lastRow = int64_t{panel.count} - 1 - panel.topIndex;
-  int64_t row = std::min(int64_t{panel.cursorRow} + delta, lastRow);
-  if (panel.topIndex == 0) row = std::max<int64_t>(row, 0);
-  panel.cursorRow = static_cast<int32_t>(std::max<int64_t>(row, INT32_MIN / 2));
+  const int64_t firstRow = -int64_t{panel.topIndex}, lastRow = firstRow + panel.count - 1;
+  const int64_t row = std::max(std::min(int64_t{panel.cursorRow} + delta, lastRow), firstRow);
+  panel.cursorRow = static_cast<int32_t>(row);
   const int visible = std::max(panel.visibleEntries, 1);
   int distance = 0;
   if (panel.cursorRow < 0) distance = panel.cursorRow;
