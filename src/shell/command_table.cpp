@@ -1,5 +1,7 @@
 // The command keys of the main loop: one row a key, asked by DispatchKey. A row
 // without a handler belongs to an operation that is not there yet.
+#include <iterator>
+
 #include "config/settings_file.h"
 #include "config/values/options.h"
 #include "dialogs/prompt.h"
@@ -274,6 +276,9 @@ constexpr CommandRow kCommands[] = {
 };
 
 }  // namespace
+
+const CommandRow* CommandTable() { return kCommands; }
+int CommandCount() { return static_cast<int>(std::size(kCommands)); }
 
 const CommandRow* FindCommand(Key key) {
   for (const CommandRow& row : kCommands)

@@ -22,4 +22,8 @@ struct CommandRow {
   int (*run)(Shell&);
 };
 
+// All rows, no key twice.
+const CommandRow* CommandTable();
+int CommandCount();
+// The key's row, or null.
 const CommandRow* FindCommand(Key key);
