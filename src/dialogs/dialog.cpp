@@ -1,50 +1,18 @@
-// Dialog: its elements, their groups and the focus. The loop is in
-// dialog_loop.cpp.
+// Dialog: its life, its elements as a whole and their hot letters. The loop is
+// in dialog_loop.cpp, the focus in dialog_focus.cpp.
 #include "dialogs/dialog.h"
 
 #include <algorithm>
 #include <cctype>
-#include <vector>
 
 #include "config/values/colours.h"
 #include "console/console.h"
-#include "dialogs/focus_order.h"
 
 namespace {
 
 constexpr int kDefaultCode = kEnter;  // what a dialog without buttons ends with
 
-std::vector<FocusPlace> Places(const Dialog& dialog) {
-  std::vector<FocusPlace> places;
-  places.reserve(dialog.Count());
-  for (int i = 0; i < dialog.Count(); ++i) {
-    const DialogElement& element = *dialog.Element(i);
-    places.push_back({element.group, element.groupCurrent, element.focusable, element.tabToFirst});
-  }
-  return places;
-}
-
 }  // namespace
-
-// ---- elements --------------------------------------------------------------
-
-DialogElement::DialogElement(Dialog& owner, int index, int x, int y, bool startGroup)
-    : dialog(owner), index(index), x(x), y(y), groupCurrent(index), tabToFirst(startGroup) {
-  const bool fits = owner.count < Dialog::kMaxElements;
-  if (fits && (startGroup || index == 0)) owner.currentGroup = index;
-  group = owner.currentGroup;
-  if (fits) owner.elements[owner.count] = this;
-}
-
-int DialogElement::HandleEvent(const DialogEvent&) { return 0; }
-
-void DialogElement::Activate() { dialog.SetFocus(index); }
-
-void DialogElement::FocusChanged(bool) { Draw(); }
-
-bool DialogElement::HasFocus() const { return dialog.Focus() == index; }
-
-// ---- the dialog's life -----------------------------------------------------
 
 Dialog::Dialog(int left, int top, int right, int bottom, uint8_t attribute)
     : Win(left, top, right, bottom, attribute, attribute),
@@ -81,8 +49,6 @@ int Dialog::SendEvent(int i, const DialogEvent& event) {
   return IsElement(i) ? elements[i]->HandleEvent(event) : 0;
 }
 
-// ---- defaults and hot letters ----------------------------------------------
-
 void Dialog::SetDefaultButton(int i) {
   if (!IsElement(i) || elements[i]->TypeId() != kTypePushButton) return;
   defaultResult = static_cast<int32_t>(elements[i]->exitCode);
@@ -107,38 +73,4 @@ void Dialog::TakeHotLetter(int i, Estring& label) {
   if (i > hotLetterCount) std::fill(hotLetters + hotLetterCount, hotLetters + i, '\0');
   hotLetters[i] = static_cast<char>(tolower(letter));
   hotLetterCount = std::max(hotLetterCount, i + 1);
-}
-
-// ---- focus -----------------------------------------------------------------
-
-bool Dialog::CanChangeFocus(int, int&) { return true; }
-
-void Dialog::SetFocus(int i) {
-  if (!IsElement(i) || i == focus) return;
-  const int groupLast = GroupHead(i).groupCurrent;
-  int target = i;
-  if (!CanChangeFocus(focus, target) || !IsElement(target) || target == focus) return;
-  const int old = focus;
-  focus = target;
-  GroupHead(target).groupCurrent = target;
-  elements[target]->FocusChanged(true);
-  elements[old]->FocusChanged(false);
-  if (groupLast != old && groupLast != target && IsElement(groupLast))
-    elements[groupLast]->FocusChanged(false);
-  FocusChanged();
-}
-
-void Dialog::Move(int step) { SetFocus(NextInGroup(Places(*this), focus, step)); }
-
-void Dialog::MoveGroup(int step) {
-  SetFocus(NextGroup(Places(*this), focus, step));
-  if (!elements[focus]->focusable) Move(step);
-}
-
-// Brings the focus to where the group of its element has it, and from an
-// element that cannot take it to one that can.
-void Dialog::SettleFocus() {
-  SetFocus(GroupHead(focus).groupCurrent);
-  if (!elements[focus]->focusable) Move(+1);
-  if (!elements[focus]->focusable) MoveGroup(+1);
 }

@@ -1,9 +1,7 @@
-// The plain elements, and the functions of Dialog that add them.
+// The plain elements: what they show and what they do.
 #include "dialogs/elements.h"
 
 #include <algorithm>
-
-// ---- StaticText ------------------------------------------------------------
 
 StaticText::StaticText(Dialog& dialog, int index, int x, int y, const char* text, uint8_t attribute)
     : DialogElement(dialog, index, x, y, false),
@@ -19,8 +17,6 @@ void StaticText::Draw() {
     dialog.PrintBytes(x, y, text, attribute);
   }
 }
-
-// ---- PushButton ------------------------------------------------------------
 
 PushButton::PushButton(Dialog& dialog, int index, int x, int y, bool startGroup, Key code, const char* label)
     : DialogElement(dialog, index, x, y, startGroup), code(code), label(label) {
@@ -58,16 +54,12 @@ int PushButton::HandleEvent(const DialogEvent& event) {
   return 1;
 }
 
-// ---- ExitKey ---------------------------------------------------------------
-
 ExitKey::ExitKey(Dialog& dialog, int index, Key code) : DialogElement(dialog, index, 0, 0, true), code(code) {
   exitCode = code;
   focusable = false;
 }
 
 void ExitKey::Activate() { dialog.SetResult(static_cast<int>(code)); }
-
-// ---- ProgressIndicator -----------------------------------------------------
 
 ProgressIndicator::ProgressIndicator(Dialog& dialog, int index, int x, int y, const float* fraction,
                                      int width)
@@ -84,39 +76,4 @@ void ProgressIndicator::Draw() {
   constexpr wchar_t kFull = 0x2588, kEmpty = 0x2591;
   const int filled = FilledCells(*fraction, width);
   dialog.Print(x, y, Westring::Replicate(kFull, filled) + Westring::Replicate(kEmpty, width - filled));
-}
-
-// ---- adding ----------------------------------------------------------------
-
-int Dialog::AddStaticText(int x, int y, const char* bytes, uint8_t attribute) {
-  return Add(new StaticText(*this, count, x, y, bytes, attribute));
-}
-
-int Dialog::AddButton(int x, int y, bool startGroup, Key code, const char* label) {
-  const int added = Add(new PushButton(*this, count, x, y, startGroup, code, label));
-  if (added >= 0 && defaultResult == 0) defaultResult = static_cast<int32_t>(code);
-  return added;
-}
-
-int Dialog::AddButtons(int x, int y, bool startGroup, const ButtonRow* table) {
-  if (x < 0) x = std::max((InnerWidth() - ButtonRowCells(table)) / 2, 0);
-  if (y < 0) y += InnerHeight();
-  int first = -1;
-  for (const ButtonRow* row = table; row->code != 0; ++row) {
-    const int added = AddButton(x, y, startGroup && row == table, row->code, row->label);
-    if (row == table) first = added;
-    x += ButtonStep(row->label);
-  }
-  return first;
-}
-
-int Dialog::AddOkCancel(int x, int y, bool startGroup) {
-  static constexpr ButtonRow kOkCancel[] = {{kEnter, "_OK"}, {kEscape, "Cancel"}, {0, nullptr}};
-  return AddButtons(x, y, startGroup, kOkCancel);
-}
-
-int Dialog::AddExitKey(Key code) { return Add(new ExitKey(*this, count, code)); }
-
-int Dialog::AddProgressIndicator(int x, int y, int width, const float* fraction) {
-  return Add(new ProgressIndicator(*this, count, x, y, fraction, width));
 }

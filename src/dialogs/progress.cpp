@@ -25,8 +25,6 @@ std::unique_ptr<Dialog> MakeBox(int width, int height) {
 
 }  // namespace
 
-// ---- the thread ------------------------------------------------------------
-
 ProgressIndicatorThread::~ProgressIndicatorThread() { Stop(); }
 
 void ProgressIndicatorThread::Start() { running = pthread_create(&thread, nullptr, Main, this) == 0; }
@@ -52,8 +50,6 @@ void ProgressIndicatorThread::TickUntilStopped() {
   }
 }
 
-// ---- a file being read -----------------------------------------------------
-
 FileReadProgress::FileReadProgress(const int64_t* position, const int64_t* total, const char* title)
     : position(position), total(total), title(title) {
   Start();
@@ -72,8 +68,6 @@ void FileReadProgress::Tick() {
   fraction = static_cast<float>(Peek(position)) / static_cast<float>(all);
   dialog->Redraw(-1);
 }
-
-// ---- a directory being read ------------------------------------------------
 
 DirReadProgress::DirReadProgress(const int32_t* count) : count(count) { Start(); }
 
