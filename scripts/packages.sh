@@ -1,0 +1,68 @@
+# Sourced by the other scripts: what has to be installed, and installing it.
+
+build_packages=(g++ cmake ninja-build pkg-config libgtkmm-2.4-dev fonts-dejavu-core python3-minimal)
+headless_packages=(xvfb)
+test_packages=(xvfb libgtest-dev libx11-dev libxtst-dev xclip)
+bench_packages=(xvfb libbenchmark-dev)
+
+# require PACKAGE...: installs those that are missing. Where that cannot be done
+# the message names them, and the script ends.
+require() {
+  if ! command -v dpkg-query >/dev/null; then
+    require_programs "$@"
+    return
+  fi
+  local package missing=()
+  for package in "$@"; do
+    [[ $(dpkg-query -W -f='${Status}' "$package" 2>/dev/null) == *" installed" ]] || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  echo "Installing: ${missing[*]}" >&2
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "These packages are missing, and there is no sudo to install them: ${missing[*]}" >&2
+      echo "Install them as root (apt-get install ${missing[*]}) and run this again." >&2
+      exit 1
+    fi
+    as_root=(sudo)
+  fi
+  # Services and locales may ask on installation; nobody is there to answer.
+  if ! { "${as_root[@]}" apt-get -q update && "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+         apt-get -q -y --no-install-recommends install "${missing[@]}"; } >&2 </dev/null; then
+    echo "These packages could not be installed: ${missing[*]}" >&2
+    echo "Install them by hand (apt-get install ${missing[*]}) and run this again." >&2
+    exit 1
+  fi
+}
+
+# On a system of another kind only the programs and libraries can be looked for.
+require_programs() {
+  local missing=()
+  command -v g++ >/dev/null || command -v clang++ >/dev/null || missing+=("a C++20 compiler")
+  local program
+  for program in cmake ninja pkg-config python3; do
+    command -v "$program" >/dev/null || missing+=("$program")
+  done
+  pkg-config --exists gtkmm-2.4 2>/dev/null || missing+=("gtkmm 2.4 with its headers")
+  [ ${#missing[@]} -eq 0 ] && return
+  echo "This system has no apt-get, so nothing was installed. Missing:" >&2
+  printf '  %s\n' "${missing[@]}" >&2
+  echo "On Debian the packages would be: $*" >&2
+  exit 1
+}
+
+# build PRESET TARGETS [-DNAME=VALUE...]: brings the tree build/PRESET up to date.
+# CMake runs only where the tree is not configured this way yet.
+build() {
+  local tree=build/$1 targets=$2 setting
+  for setting in CMAKE_MAKE_PROGRAM "${@:3}"; do
+    if ! grep -qE "^$(sed -E 's/^-D//; s/=/:[A-Z]*=/' <<<"$setting")" "$tree/CMakeCache.txt" 2>/dev/null; then
+      cmake --preset "$1" "${@:3}" >&2
+      break
+    fi
+  done
+  # shellcheck disable=SC2086
+  ninja -C "$tree" $targets | grep -vE '^ninja: (Entering directory|no work to do)' >&2
+  return "${PIPESTATUS[0]}"
+}
