@@ -5,8 +5,8 @@
 
 struct Arguments {
   Westring viewFile, editFile;
-  Westring startDirectory[2];  // -l, -r
-  Westring exitScript;         // -x
+  Westring startDirectory[2];        // -l, -r
+  Westring exitScript;               // -x
   const char* usageError = nullptr;  // what to print before giving up
 };
 

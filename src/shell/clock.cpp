@@ -19,7 +19,8 @@ Westring ClockText(time_t moment, int timeMode) {
   const char separator = parts.tm_sec % 2 ? ' ' : ':';
   if (timeMode == 24) return Westring(Estring::Format("%2d%c%02d", parts.tm_hour, separator, parts.tm_min));
   const int hour = parts.tm_hour % 12 ? parts.tm_hour % 12 : 12;
-  return Westring(Estring::Format("%2d%c%02d%c", hour, separator, parts.tm_min, parts.tm_hour < 12 ? 'a' : 'p'));
+  return Westring(
+      Estring::Format("%2d%c%02d%c", hour, separator, parts.tm_min, parts.tm_hour < 12 ? 'a' : 'p'));
 }
 
 void ShowClock() {

@@ -28,7 +28,8 @@ int WordEnd(const wchar_t* text, bool briefWordRight) {
 namespace {
 
 int WordEndAtCursor(const Shell& shell) {
-  return shell.commandCursor + WordEnd(shell.commandLine.Text() + shell.commandCursor, Options::BriefWordRight);
+  return shell.commandCursor +
+         WordEnd(shell.commandLine.Text() + shell.commandCursor, Options::BriefWordRight);
 }
 
 void Erase(Shell& shell, int from, int to) {

@@ -4,7 +4,7 @@
 #include "shell/shell.h"
 
 // Ends of words from a place in the line, by the program's word characters.
-int WordStart(const Westring& line, int cursor);            // of the word left of cursor
+int WordStart(const Westring& line, int cursor);        // of the word left of cursor
 int WordEnd(const wchar_t* text, bool briefWordRight);  // how far Ctrl-Right goes
 
 void SetCommandLine(Shell& shell, const Westring& text);  // cursor to the end
@@ -45,7 +45,7 @@ int MoveWordLeft(Shell& shell);
 int MoveWordRight(Shell& shell);
 int MoveLineStart(Shell& shell);
 int MoveLineEnd(Shell& shell);
-int CursorLeft(Shell& shell);   // or scrolls the long name under the panel cursor
+int CursorLeft(Shell& shell);  // or scrolls the long name under the panel cursor
 int CursorRight(Shell& shell);
 int CopyLine(Shell& shell);
 int PasteLine(Shell& shell);

@@ -60,8 +60,7 @@ int RunQuit(Shell& shell) {
     shell.quit = true;
     return kRedrawNothing;
   }
-  const int answer =
-      Prompt(L"Are you sure you want to exit Orvane ?", L"", kPromptOkCancel | kPromptMessage);
+  const int answer = Prompt(L"Are you sure you want to exit Orvane ?", L"", kPromptOkCancel | kPromptMessage);
   shell.quit = answer > 0 && answer < 256 && UpperTable[answer] == 'Y';
   return kRedrawAll;
 }

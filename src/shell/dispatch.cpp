@@ -67,8 +67,8 @@ bool TextKey(Shell& shell) {
 // ---- commands --------------------------------------------------------------
 
 // These leave the panel cursor where it is, so it need not be painted anew.
-constexpr Key kCursorStays[] = {CtrlLetter('h'), kDelete,         kAltLeft,     kAltRight, kCtrlLeft, kCtrlRight,
-                                CtrlLetter('s'), CtrlLetter('d'), kModifierKey, 0};
+constexpr Key kCursorStays[] = {CtrlLetter('h'), kDelete,         kAltLeft,        kAltRight,    kCtrlLeft,
+                                kCtrlRight,      CtrlLetter('s'), CtrlLetter('d'), kModifierKey, 0};
 
 bool CursorStays(Key key) {
   for (Key stays : kCursorStays)

@@ -9,10 +9,10 @@ void DispatchKey(Shell& shell);
 
 // Conditions under which a command does nothing.
 enum CommandNeeds : unsigned {
-  kPanelShown = 1,   // one panel at least is visible
-  kFilesPanel = 2,   // the active panel lists files
-  kNoArchive = 4,    // the active panel browses no archive
-  kEndsSearch = 8,   // no condition: clears the quick-search text
+  kPanelShown = 1,  // one panel at least is visible
+  kFilesPanel = 2,  // the active panel lists files
+  kNoArchive = 4,   // the active panel browses no archive
+  kEndsSearch = 8,  // no condition: clears the quick-search text
 };
 
 struct CommandRow {

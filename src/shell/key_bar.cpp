@@ -26,7 +26,8 @@ const char* const kLabels[8][kBarKeys] = {
 }  // namespace
 
 const char* const* BarLabels(uint32_t modifiers) {
-  const int index = (modifiers & kModAlt ? 1 : 0) + (modifiers & kModCtrl ? 2 : 0) + (modifiers & kModShift ? 4 : 0);
+  const int index =
+      (modifiers & kModAlt ? 1 : 0) + (modifiers & kModCtrl ? 2 : 0) + (modifiers & kModShift ? 4 : 0);
   return kLabels[index];
 }
 

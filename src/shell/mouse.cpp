@@ -89,7 +89,8 @@ void ActInList(Shell& shell) {
   }
   switch (shell.mouse.kind) {
     case kMouseLeftDouble:
-      shell.redrawLevel = std::max(shell.redrawLevel, ExecuteCommandLine(static_cast<int>(ActiveSide), L"", false));
+      shell.redrawLevel =
+          std::max(shell.redrawLevel, ExecuteCommandLine(static_cast<int>(ActiveSide), L"", false));
       break;
     case kMouseRightPress:
       ToggleTag(shell, index);

@@ -10,7 +10,7 @@ int GoRowUp(Shell& shell);
 int GoRowDown(Shell& shell);
 int PageUp(Shell& shell);
 int PageDown(Shell& shell);
-int GoLeft(Shell& shell);   // a column, or on the command line
+int GoLeft(Shell& shell);  // a column, or on the command line
 int GoRight(Shell& shell);
 int TagAndGoDown(Shell& shell);
 int PreviousTagged(Shell& shell);
@@ -36,7 +36,7 @@ int StorePath(Shell& shell, int digit);
 int InsertLeftPath(Shell& shell);
 int InsertRightPath(Shell& shell);
 int InsertName(Shell& shell);
-int InsertFullPath(Shell& shell);  // with Shift to the clipboard
+int InsertFullPath(Shell& shell);    // with Shift to the clipboard
 int CompleteOrInsert(Shell& shell);  // from the history, or the entry's name
 
 // Enter, and Alt-Enter with separate.

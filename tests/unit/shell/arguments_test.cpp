@@ -101,7 +101,9 @@ TEST_F(ArgumentsTest, OtherOptionsWithoutAValueArePassedOver) {
   for (const char* letter : {"-l", "-r", "-x"}) {
     const Arguments arguments = Read({letter});
     EXPECT_EQ(arguments.usageError, nullptr) << letter;
-    EXPECT_EQ(Text(arguments.startDirectory[0]) + Text(arguments.startDirectory[1]) + Text(arguments.exitScript), "");
+    EXPECT_EQ(
+        Text(arguments.startDirectory[0]) + Text(arguments.startDirectory[1]) + Text(arguments.exitScript),
+        "");
   }
 }
 

@@ -39,25 +39,58 @@ TEST(CommandTable, KnowsNoKeyThatIsNotThere) {
 }
 
 TEST(CommandTable, TheCommandLineHasItsKeys) {
-  ExpectRows({kEnter, kAltEnter, kEscape, kCtrlRightBracket, kCtrlLeft, kCtrlRight, kCtrlBackspace, kCtrlDelete,
-              kLeft, kRight, kAltLeft, kAltRight, CtrlLetter('s'), CtrlLetter('d'), kCtrlHome, kCtrlEnd,
-              CtrlLetter('e'), kCtrlUp, CtrlLetter('x'), kCtrlDown, kCtrlEnter, kCtrlShiftEnter, kCtrlShiftJ,
-              CtrlLetter('f'), kCtrlShiftF, kCtrlTab, kCtrlInsert, kShiftInsert, kDelete, kBackspace});
+  ExpectRows({kEnter,          kAltEnter,       kEscape,         kCtrlRightBracket,
+              kCtrlLeft,       kCtrlRight,      kCtrlBackspace,  kCtrlDelete,
+              kLeft,           kRight,          kAltLeft,        kAltRight,
+              CtrlLetter('s'), CtrlLetter('d'), kCtrlHome,       kCtrlEnd,
+              CtrlLetter('e'), kCtrlUp,         CtrlLetter('x'), kCtrlDown,
+              kCtrlEnter,      kCtrlShiftEnter, kCtrlShiftJ,     CtrlLetter('f'),
+              kCtrlShiftF,     kCtrlTab,        kCtrlInsert,     kShiftInsert,
+              kDelete,         kBackspace});
 }
 
 TEST(CommandTable, ThePanelsHaveTheirKeys) {
-  ExpectRows({kHome, kEnd, kUp, kDown, kTab, kShiftTab, kCtrlBackslash, kAltBackslash, kCtrlShiftBackslash,
-              kCtrlMinus, kCtrlPageUp, CtrlDigit(9), kAltHome, kAltBackspace, CtrlLetter('g'), CtrlLetter('u'),
-              CtrlLetter('o'), CtrlLetter('p'), CtrlLetter('l'), CtrlLetter('r'), CtrlLetter('h'), CtrlLetter('k'),
-              CtrlLetter('q'), CtrlLetter('t'), CtrlLetter('y'), CtrlLetter('b'), kCtrlM, kCtrlShiftM,
-              kCtrlGreyPlus, kCtrlGreyMinus, kCtrlShiftGreyPlus, kCtrlShiftGreyMinus, kAltGreyPlus});
+  ExpectRows({kHome,
+              kEnd,
+              kUp,
+              kDown,
+              kTab,
+              kShiftTab,
+              kCtrlBackslash,
+              kAltBackslash,
+              kCtrlShiftBackslash,
+              kCtrlMinus,
+              kCtrlPageUp,
+              CtrlDigit(9),
+              kAltHome,
+              kAltBackspace,
+              CtrlLetter('g'),
+              CtrlLetter('u'),
+              CtrlLetter('o'),
+              CtrlLetter('p'),
+              CtrlLetter('l'),
+              CtrlLetter('r'),
+              CtrlLetter('h'),
+              CtrlLetter('k'),
+              CtrlLetter('q'),
+              CtrlLetter('t'),
+              CtrlLetter('y'),
+              CtrlLetter('b'),
+              kCtrlM,
+              kCtrlShiftM,
+              kCtrlGreyPlus,
+              kCtrlGreyMinus,
+              kCtrlShiftGreyPlus,
+              kCtrlShiftGreyMinus,
+              kAltGreyPlus});
   ExpectRows({kPageUp, kPageDown, kInsert, kAltUp, kAltDown, kCtrlPageDown, CtrlDigit(3)}, kPanelShown);
 }
 
 TEST(CommandTable, FilesHaveTheirKeys) {
   ExpectRows({CtrlLetter('a'), CtrlLetter('c'), kCtrlI, FKey(7)}, kNoArchive);
   ExpectRows({FKey(5), FKey(6), FKey(8)}, kPanelShown | kFilesPanel);
-  ExpectRows({ShiftFKey(5), ShiftFKey(6), CtrlShiftFKey(5), CtrlLetter('w')}, kPanelShown | kFilesPanel | kNoArchive);
+  ExpectRows({ShiftFKey(5), ShiftFKey(6), CtrlShiftFKey(5), CtrlLetter('w')},
+             kPanelShown | kFilesPanel | kNoArchive);
 }
 
 TEST(CommandTable, EveryFunctionKeyWithAMeaningHasARow) {
@@ -72,13 +105,13 @@ TEST(CommandTable, EveryFunctionKeyWithAMeaningHasARow) {
 TEST(CommandTable, TheMenusCommandsHaveRows) {
   ExpectRows(Range(0x100000, 0x100010));
   ExpectRows(Range(0x100012, 0x10001B));
-  ExpectRows({0x10006D, 0x10006E, 0x10006F, 0x100071, 0x100072, 0x1000D0, 0x1000D1, 0x10012C, 0x10012D, 0x10012E,
-              0x10012F, 0x100131, 0x100132, 0x100133, 0x100134, 0x100135, 0x100136, 0x100137, 0x100193, 0x10019B,
-              0x10019C});
+  ExpectRows({0x10006D, 0x10006E, 0x10006F, 0x100071, 0x100072, 0x1000D0, 0x1000D1,
+              0x10012C, 0x10012D, 0x10012E, 0x10012F, 0x100131, 0x100132, 0x100133,
+              0x100134, 0x100135, 0x100136, 0x100137, 0x100193, 0x10019B, 0x10019C});
   ExpectRows({kMenuFileDate}, kNoArchive);
 }
 
 TEST(CommandTable, TheMenusCommandsThatAreShortcutsHaveRows) {
-  ExpectRows({0x1005E, 0x1005F, 0x10068, 0x10069, 0x30054, 0x10102, 0x2B + 0x10000, 0x1, 0x3, 0x15, 0xF, 0xB, 0x11,
-              0x17});
+  ExpectRows({0x1005E, 0x1005F, 0x10068, 0x10069, 0x30054, 0x10102, 0x2B + 0x10000, 0x1, 0x3, 0x15, 0xF, 0xB,
+              0x11, 0x17});
 }

@@ -40,6 +40,7 @@ TEST(Unquote, KeepsABackslashWithNothingBehindIt) {
 }
 
 TEST(Unquote, UndoesShellQuote) {
-  for (const wchar_t* text : {L"", L"plain", L"a b", L"\\", L"it's \"$5\" & `x`|{y}<z>[~]!()", L"\xE9 \x4E16"})
+  for (const wchar_t* text :
+       {L"", L"plain", L"a b", L"\\", L"it's \"$5\" & `x`|{y}<z>[~]!()", L"\xE9 \x4E16"})
     EXPECT_EQ(Unquoted(ShellQuote(text).Text()), text);
 }
