@@ -5,7 +5,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
-#include "unit/panels/panel_records.h"
+#include "support/hand_made_panels.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "panels/name_field.h"
-#include "unit/panels/panel_records.h"
+#include "support/hand_made_panels.h"
 #include "unit/scratch_directory.h"
 
 namespace {

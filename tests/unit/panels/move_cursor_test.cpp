@@ -1,6 +1,6 @@
 // Where the cursor and the list's top go. The panels have no window here.
 #include "panels/draw_panel.h"
-#include "unit/panels/panel_records.h"
+#include "support/hand_made_panels.h"
 
 namespace {
 

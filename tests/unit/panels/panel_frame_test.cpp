@@ -1,7 +1,7 @@
 // Title, divider and bottom of a panel's frame.
 #include "panels/panel_frame.h"
 
-#include "unit/panels/panel_records.h"
+#include "support/hand_made_panels.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Rows of a tree: the lines in front of the names, and the paths.
 #include "panels/tree_row.h"
 
-#include "unit/panels/panel_records.h"
+#include "support/hand_made_panels.h"
 
 namespace {
 

@@ -18,9 +18,9 @@
 #include "panels/panel.h"
 
 // Two panels with default options, 80 columns and five rows.
-class PanelRecords : public testing::Test {
+class HandMadePanels {
  protected:
-  PanelRecords() {
+  HandMadePanels() {
     Panels = panels;
     ActiveSide = 0;
     SetOptions();
@@ -28,7 +28,7 @@ class PanelRecords : public testing::Test {
     SetSize(38, 5);
     CopyText(panel.path, L"/home");
   }
-  ~PanelRecords() override {
+  ~HandMadePanels() {
     FileColours.Clear();
     DirectoryColours.Clear();
     Panels = nullptr;
@@ -99,6 +99,9 @@ class PanelRecords : public testing::Test {
     DateSeparator = '/';
   }
 };
+
+// For what is computed without a screen.
+class PanelRecords : public testing::Test, protected HandMadePanels {};
 
 inline std::wstring TextOf(const CellString& row) {
   std::wstring text;
