@@ -28,6 +28,8 @@ bool StandsAlone(int32_t character) {
   return std::find(std::begin(kSimpleScripts), std::end(kSimpleScripts), script) != std::end(kSimpleScripts);
 }
 
+bool IsLineDrawing(int32_t character) { return character >= 0x2500 && character <= 0x259F; }
+
 std::string ToBytes(int32_t character) {
   char bytes[6];
   return std::string(bytes, g_unichar_to_utf8(static_cast<gunichar>(character), bytes));
@@ -72,7 +74,8 @@ void CellPainter::SetFont(Gtk::Widget& widget, const Estring& family, int points
   oddLayouts.clear();
   context.reset(gtk_widget_create_pango_context(widget.gobj()));
   PangoFontDescription* font = pango_font_description_new();
-  pango_font_description_set_family(font, family.Text());
+  // A family that is not there is better replaced by one of a single width.
+  pango_font_description_set_family(font, (family + ",monospace").Text());
   pango_font_description_set_size(font, points * PANGO_SCALE);
   pango_context_set_font_description(context.get(), font);
   pango_context_set_base_dir(context.get(), PANGO_DIRECTION_LTR);
@@ -197,7 +200,8 @@ void CellPainter::DrawStretch(cairo_t* cairo, const Stretch& stretch, int x, int
 // True if the laid out text has one glyph for each cell, in its column.
 bool CellPainter::IsAligned(int cells) const {
   int glyphs = 0, position = 0;
-  for (GSList* node = pango_layout_get_line_readonly(layout.get(), 0)->runs; node != nullptr; node = node->next) {
+  const PangoLayoutLine* line = pango_layout_get_line_readonly(layout.get(), 0);
+  for (const GSList* node = line->runs; node != nullptr; node = node->next) {
     const PangoGlyphString* string = static_cast<PangoLayoutRun*>(node->data)->glyphs;
     for (int i = 0; i < string->num_glyphs; ++i, ++glyphs) {
       if (position != glyphs * cellWidth * PANGO_SCALE) return false;
@@ -207,7 +211,8 @@ bool CellPainter::IsAligned(int cells) const {
   return glyphs == cells;
 }
 
-// Wider characters are squeezed, so that all of them can be seen.
+// Wider characters are squeezed, so that all of them can be seen, and lines are
+// drawn across the whole cell, so that they join.
 void CellPainter::DrawAlone(cairo_t* cairo, const Cell& cell, int x, int y) {
   if (cell.character == ' ') return;
   PangoLayoutLine* line = pango_layout_get_line_readonly(LayoutOfOdd(cell.character), 0);
@@ -217,7 +222,9 @@ void CellPainter::DrawAlone(cairo_t* cairo, const Cell& cell, int x, int y) {
   cairo_rectangle(cairo, x, y, cellWidth, cellHeight);
   cairo_clip(cairo);
   cairo_translate(cairo, x, y + baseline);
-  if (extents.width > cellWidth) cairo_scale(cairo, static_cast<double>(cellWidth) / extents.width, 1);
+  if (extents.width > cellWidth || (IsLineDrawing(cell.character) && extents.width > 0)) {
+    cairo_scale(cairo, static_cast<double>(cellWidth) / extents.width, 1);
+  }
   SetColour(cairo, Foreground(cell.attribute));
   cairo_move_to(cairo, 0, 0);
   pango_cairo_show_layout_line(cairo, line);

@@ -18,11 +18,14 @@ struct TextRequest {
   std::string text;
 };
 
-// The asker may have given up by now; the answer keeps the request alive.
+// Shared, for the asker may give up before the answer comes.
+using RequestHandle = std::shared_ptr<TextRequest>;
+
 void OnText(GtkClipboard*, const gchar* text, gpointer data) {
-  const std::unique_ptr<std::shared_ptr<TextRequest>> request(static_cast<std::shared_ptr<TextRequest>*>(data));
-  if (text != nullptr) (*request)->text = text;
-  (*request)->answered.Set();
+  const std::unique_ptr<RequestHandle> handle(static_cast<RequestHandle*>(data));
+  TextRequest& request = **handle;
+  if (text != nullptr) request.text = text;
+  request.answered.Set();
 }
 
 GtkClipboard* Clipboard() { return gtk_clipboard_get(GDK_SELECTION_CLIPBOARD); }
@@ -32,10 +35,10 @@ GtkClipboard* Clipboard() { return gtk_clipboard_get(GDK_SELECTION_CLIPBOARD); }
 // The toolkit's own waiting turns a second loop in this thread and can miss
 // its end while the GUI thread runs the first.
 Westring ReadClipboard() {
-  auto request = std::make_shared<TextRequest>();
+  const RequestHandle request = std::make_shared<TextRequest>();
   {
     ToolkitCall call;
-    gtk_clipboard_request_text(Clipboard(), OnText, new std::shared_ptr<TextRequest>(request));
+    gtk_clipboard_request_text(Clipboard(), OnText, new RequestHandle(request));
   }
   Westring text;
   if (request->answered.Wait(kPatienceMs) == 0) text.FromUtf8(request->text.c_str());

@@ -111,7 +111,9 @@ class ConsoleTeletype : public TeletypeScreen {
   int Columns() const override { return columns; }
   int Rows() const override { return rows; }
   void LoadRow(int y, CellString& row) const override { console.ReadRow(row, 0, y, columns, 1); }
-  void StoreRow(int y, const CellString& row) override { console.RestoreBlock(0, y, columns, 1, row.Cells()); }
+  void StoreRow(int y, const CellString& row) override {
+    console.RestoreBlock(0, y, columns, 1, row.Cells());
+  }
   void ScrollUpOneRow(uint8_t attribute) override { console.ScrollUp(0, 0, columns, rows, 1, attribute); }
 
  private:
@@ -194,7 +196,10 @@ void CConsole::GetSelectableRegion(CellRect& region) const { region = window->se
 
 // ---- events and code page ----------------------------------------------------
 
-bool CConsole::GetEvent(TEvent& event, uint32_t timeoutMs) { return TakeEvent(window->events, event, timeoutMs); }
+bool CConsole::GetEvent(TEvent& event, uint32_t timeoutMs) {
+  return TakeEvent(window->events, event, timeoutMs);
+}
+
 bool CConsole::EventPending() { return window->events.IsPending(); }
 CEventQueue& CConsole::Events() { return window->events; }
 

@@ -76,7 +76,9 @@ void CConsoleWindow::StopGui() {
 void CConsoleWindow::SetScreen(int columns, int rows, const Estring& family, int points) {
   ToolkitCall call;
   if (!family.IsEmpty() && g_utf8_validate(family.Text(), -1, nullptr)) fontFamily = family;
-  Layout(columns < 1 ? grid.Columns() : columns, rows < 1 ? grid.Rows() : rows, points < 1 ? fontSize : points);
+  if (columns < 1) columns = grid.Columns();
+  if (rows < 1) rows = grid.Rows();
+  Layout(columns, rows, points < 1 ? fontSize : points);
 }
 
 // A font too large for any usable screen is made smaller; after that the
@@ -118,8 +120,8 @@ void CConsoleWindow::DrawCellRow(cairo_t* cairo, const CellRect& block, int y) {
     uint8_t& attribute = rowInWork[x - block.left].attribute;
     attribute = SwapNibbles(attribute);
   }
-  painter.DrawRow(cairo, rowInWork.data(), static_cast<int>(rowInWork.size()), block.left * painter.CellWidth(),
-                  y * painter.CellHeight());
+  painter.DrawRow(cairo, rowInWork.data(), static_cast<int>(rowInWork.size()),
+                  block.left * painter.CellWidth(), y * painter.CellHeight());
 }
 
 bool CConsoleWindow::IsCursorIn(const CellRect& block) const { return block.Contains(cursorX, cursorY); }

@@ -1,7 +1,16 @@
 // The picture of the grid and its way to the window.
 #include "console/console_window.h"
 
+namespace {
+
+// The window's own mask covers these too. Without them here the first motion
+// after a press is spent on entering the window from the area.
+constexpr int kMouseEvents = GDK_BUTTON_MOTION_MASK | GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK;
+
+}  // namespace
+
 CConsoleDrawingArea::CConsoleDrawingArea() {
+  add_events(static_cast<Gdk::EventMask>(kMouseEvents));
   set_double_buffered(false);  // the picture is the buffer
   modify_bg(Gtk::STATE_NORMAL, Gdk::Color("black"));
 }
