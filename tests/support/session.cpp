@@ -266,6 +266,8 @@ void Session::KeysTypedAhead(const std::string& script) {
   Send(all);
 }
 
+void Session::Command(Key code) { Send({KeyEvent(code, held, 0)}); }
+
 void Session::Mouse(MouseKind kind, int x, int y, uint32_t modifiers, int wheelDelta) {
   TEvent event;
   event.type = kMouseRows[kind].type;

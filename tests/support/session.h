@@ -27,11 +27,11 @@ enum SessionSide { kLeftSide = 0, kRightSide = 1 };
 
 // What differs from the ordinary start.
 struct SessionSetup {
-  std::string settings;  // text of home/.orvane/orvane.ini; none if empty
+  std::string settings = {};  // text of home/.orvane/orvane.ini; none if empty
   // Instead of "-l <sandbox>/left -r <sandbox>/right". The process stands in the sandbox.
-  std::optional<std::vector<std::string>> arguments;
-  std::vector<std::pair<std::string, std::string>> environment;  // beside HOME, TZ, LANG, ...
-  std::function<void(const Sandbox&)> prepare;                   // after the files, before the start: links, times, modes
+  std::optional<std::vector<std::string>> arguments = {};
+  std::vector<std::pair<std::string, std::string>> environment = {};  // beside HOME, TZ, LANG, ...
+  std::function<void(const Sandbox&)> prepare = {};  // after the files, before the start: links, times, modes
 };
 
 class Session {
@@ -48,6 +48,7 @@ class Session {
 
   void Keys(const std::string& script);            // key_script.h; one by one, as a person types
   void KeysTypedAhead(const std::string& script);  // all of them at once
+  void Command(Key code);                          // of a menu, for which there may be no key
   void Mouse(MouseKind kind, int x, int y, uint32_t modifiers = 0, int wheelDelta = 1);
   void Click(int x, int y, uint32_t modifiers = 0);       // press and release of the left button
   void RightClick(int x, int y, uint32_t modifiers = 0);
