@@ -234,6 +234,14 @@ void FixCursor(TPanel& panel, const Westring& nameUnderCursor) {
   PositionOn(panel, nameUnderCursor.Text());
 }
 
+// An info panel tells about the listing beside it. A record that is none of the
+// screen's two has nothing beside it.
+void RedrawInfoBeside(const TPanel& panel) {
+  if (!Panels || (&panel != &Panels[0] && &panel != &Panels[1])) return;
+  TPanel& other = Panels[panel.Side() ^ 1];
+  if (!other.IsFiles()) DrawPanel(other);
+}
+
 }  // namespace
 
 void ReadPanel(TPanel& panel) {
@@ -262,8 +270,7 @@ void ReadPanel(TPanel& panel) {
   if (error != 0) return HandleFailedOpen(panel, error);
 
   FixCursor(panel, nameUnderCursor);
-  TPanel& other = Panels[panel.Side() ^ 1];
-  if (!other.IsFiles()) DrawPanel(other);
+  RedrawInfoBeside(panel);
 }
 
 void ReadBothPanels() {
