@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Runs a program on a display of its own and takes a screenshot of it.
+"""Runs a program on a display of its own, and may take a screenshot of it.
 
-  headless.py --screenshot FILE.png PROGRAM [ARGUMENT...]
+  headless.py [--screenshot FILE.png] PROGRAM [ARGUMENT...]
 
-Starts Xvfb, which keeps its screen in a file, and the program on it; waits
-until the window stands still, writes the picture of it, and ends both. If the
-program ends by itself before that, its exit status is handed on.
+Starts Xvfb, which keeps its screen in a file, and the program on it. With a
+screenshot wanted it waits until the window stands still, writes the picture of
+it, and ends both; otherwise it waits for the program's end. If the program
+ends by itself, its exit status is handed on.
 """
 import os
 import struct
@@ -121,15 +122,16 @@ def end(process):
             process.wait()
 
 
-def main(flag, picture, *command):
-    if flag != "--screenshot":
-        sys.exit(__doc__)
+def main(*command):
+    picture = None
+    if command[0] == "--screenshot":
+        picture, command = command[1], command[2:]
     with tempfile.TemporaryDirectory() as directory:
         server, display = start_server(directory)
         try:
             program = subprocess.Popen(command, env={**os.environ, "DISPLAY": display})
             try:
-                rows = wait_for_picture(program, os.path.join(directory, "Xvfb_screen0"))
+                rows = wait_for_picture(program, os.path.join(directory, "Xvfb_screen0")) if picture else program.wait()
                 if program.poll() is not None:
                     return program.returncode if program.returncode >= 0 else 128 - program.returncode
             finally:
@@ -145,4 +147,6 @@ def main(flag, picture, *command):
 
 
 if __name__ == "__main__":
+    if len(sys.argv) < 2:
+        sys.exit(__doc__)
     sys.exit(main(*sys.argv[1:]))

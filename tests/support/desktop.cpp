@@ -1,12 +1,14 @@
 // The desktop; see the header.
 #include "support/desktop.h"
 
+// Before Xlib, whose macros take away names such as None and Bool.
+#include <gtest/gtest.h>
+
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
-#include <gtest/gtest.h>
 #include <poll.h>
 #include <signal.h>
 #include <sys/prctl.h>
@@ -29,6 +31,7 @@ constexpr auto kPatience = std::chrono::seconds(20);
 constexpr int kPollPauseMs = 10;
 constexpr int kStartColumns = 80, kStartRows = 25;
 constexpr char kTitleAtRest[] = "Orvane: ";  // followed by the path, set when the panels stand
+constexpr float kFaintest = 50;  // distance of colours; less is the edge of a neighbour's glyph
 constexpr float kSameGlyph = 0.04f;          // mean difference of ink that still is the same character
 
 // Errors of requests on a window that has just gone are no errors here.
@@ -277,7 +280,7 @@ Desktop::Glyph Desktop::ReadGlyph(const Picture& picture, int column, int row) c
     glyph[i] = Distance(picture.At(left + x, top + y), ground);
     most = std::max(most, glyph[i]);
   }
-  for (float& ink : glyph) ink = most > 0 ? ink / most : 0;
+  for (float& ink : glyph) ink = most > kFaintest ? ink / most : 0;
   return glyph;
 }
 

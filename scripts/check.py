@@ -1,0 +1,148 @@
+#!/usr/bin/env python3
+"""Checks of the tree that no compiler makes; prints what fails and a count.
+
+  check.py BUILD_DIRECTORY
+
+- Every header compiles alone; outside src/console without the toolkit.
+- A room includes only itself and the rooms below it, and only src/console
+  includes the toolkit.
+- docs/architecture.md names every file of src and no other.
+- No file of the project has over 700 lines.
+- An install puts each file where the program looks for it.
+"""
+import concurrent.futures
+import os
+import re
+import shlex
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+SOURCE = ROOT / "src"
+ROOMS = ["foundation", "config/values", "console", "dialogs", "panels", "config", "shell", "program"]
+TOOLKIT = re.compile(r"^(gtk|gdk|glib|gio|pango|cairo|atk|gtkmm|gdkmm|glibmm|giomm|pangomm|cairomm|sigc\+\+|X11)\b")
+MOST_LINES = 700
+PROSE = {".md"}  # may be as long as it likes
+INSTALLED = [
+    "usr/share/orvane/orvane.ovd",
+    "usr/share/doc/orvane/manual/orvane.html",
+    "usr/share/doc/orvane/manual/index.html",
+    "usr/share/icons/hicolor/16x16/apps/orvane.png",
+    "usr/share/icons/hicolor/scalable/apps/orvane.svg",
+    "usr/share/applications/orvane.desktop",
+    "usr/share/man/man1/orvane.1",
+]
+
+
+def sources():
+    return sorted(path for path in SOURCE.rglob("*") if path.suffix in (".h", ".cpp"))
+
+
+def room_of(path):
+    """The room of a path below src/; the longest name that fits."""
+    fitting = [room for room in ROOMS if str(path).startswith(room + "/")]
+    return max(fitting, key=len, default=None)
+
+
+def pkg_config(*packages):
+    return shlex.split(subprocess.check_output(["pkg-config", "--cflags", *packages], text=True))
+
+
+def compile_alone(header, toolkit):
+    """The first error of a file that includes nothing but the header."""
+    command = [os.environ.get("CXX", "g++"), "-std=c++20", "-fsyntax-only", "-Wall", "-Wextra", "-Werror",
+               "-I", str(SOURCE), "-x", "c++", "-"]
+    if room_of(header.relative_to(SOURCE)) == "console":
+        command += [flag.replace("-I", "-isystem", 1) for flag in toolkit]
+    result = subprocess.run(command, input=f'#include "{header}"\n', capture_output=True, text=True)
+    return next((line for line in result.stderr.splitlines() if "error: " in line), "")
+
+
+def headers_compile_alone(_):
+    toolkit = pkg_config("gtkmm-2.4", "gthread-2.0")
+    headers = [path for path in sources() if path.suffix == ".h"]
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        yield from filter(None, pool.map(lambda header: compile_alone(header, toolkit), headers))
+
+
+def included_files(path):
+    for line in path.read_text(encoding="utf-8").splitlines():
+        found = re.match(r'\s*#\s*include\s*(["<])([^">]+)[">]', line)
+        if found:
+            yield found.group(1) == '"', found.group(2)
+
+
+def include_problem(quoted, name, room):
+    if not quoted:
+        return "the toolkit belongs to the console" if TOOLKIT.match(name) and room != "console" else ""
+    target = room_of(name)
+    if target is None or not (SOURCE / name).is_file():
+        return "no file of a room"
+    return "a room above its own" if ROOMS.index(target) > ROOMS.index(room) else ""
+
+
+def rooms_ask_downwards(_):
+    for path in sources():
+        room = room_of(path.relative_to(SOURCE))
+        if room is None:
+            yield f"{path.relative_to(ROOT)} is in no room"
+            continue
+        for quoted, name in included_files(path):
+            problem = include_problem(quoted, name, room)
+            if problem:
+                yield f"{path.relative_to(ROOT)} includes {name}: {problem}"
+
+
+def architecture_lists_every_file(_):
+    page = (ROOT / "docs/architecture.md").read_text(encoding="utf-8")
+    listed = set(re.findall(r"^- `([^`]+)`", page, re.M))
+    present = {str(path.relative_to(SOURCE)) for path in sources()}
+    yield from (f"{name} is not listed" for name in sorted(present - listed))
+    yield from (f"{name} is listed but not there" for name in sorted(listed - present))
+
+
+def files_are_short(_):
+    names = subprocess.check_output(["git", "-C", ROOT, "ls-files", "-co", "--exclude-standard"], text=True)
+    for name in names.splitlines():
+        path = ROOT / name
+        if path.suffix in PROSE or name == "LICENSE" or not path.is_file():
+            continue
+        lines = path.read_bytes().count(b"\n")
+        if lines > MOST_LINES:
+            yield f"{name} has {lines} lines"
+
+
+def install_goes_where_the_program_looks(build_directory):
+    """Configures with the default directories and installs all but the program."""
+    tree = os.path.join(build_directory, "install-check")
+    with tempfile.TemporaryDirectory() as target:
+        for command in (["cmake", "-S", ROOT, "-B", tree, "-G", "Ninja"], ["ninja", "-C", tree, "help_pages"],
+                        ["cmake", "--install", tree, "--component", "data"]):
+            result = subprocess.run(command, env={**os.environ, "DESTDIR": target}, text=True,
+                                    stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+            if result.returncode != 0:
+                yield result.stdout
+                return
+        yield from (f"{name} is missing" for name in INSTALLED if not os.path.isfile(os.path.join(target, name)))
+
+
+CHECKS = [headers_compile_alone, rooms_ask_downwards, architecture_lists_every_file, files_are_short,
+          install_goes_where_the_program_looks]
+
+
+def main(build_directory):
+    failed = 0
+    for check in CHECKS:
+        problems = list(check(build_directory))
+        print(f"{'FAILED' if problems else 'ok'}: {check.__name__.replace('_', ' ')}")
+        for problem in problems:
+            print(f"  {problem}")
+        failed += bool(problems)
+    print(f"{len(CHECKS) - failed} passed, {failed} failed")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
