@@ -103,9 +103,12 @@ int64_t DateValue(const Westring& value) {
   }
   const auto [first, second, third] = numbers;
   switch (DateOrder) {
-    case kDateMonthFirst: return LocalMidnight(FullYear(third), first, second);
-    case kDateDayFirst: return LocalMidnight(FullYear(third), second, first);
-    default: return LocalMidnight(FullYear(first), second, third);
+    case kDateMonthFirst:
+      return LocalMidnight(FullYear(third), first, second);
+    case kDateDayFirst:
+      return LocalMidnight(FullYear(third), second, first);
+    default:
+      return LocalMidnight(FullYear(first), second, third);
   }
 }
 

@@ -35,7 +35,8 @@ bool IsDotName(const wchar_t* name) {
 
 // Name and status as an entry. The status is the link's own for a link, and
 // gives way to its target's where there is one.
-entry* MakeEntry(int directory, const char* rawName, const Westring& name, struct stat status, const User& user) {
+entry* MakeEntry(int directory, const char* rawName, const Westring& name, struct stat status,
+                 const User& user) {
   uint16_t attributes = 0;
   if (S_ISLNK(status.st_mode)) {
     struct stat target;
@@ -63,7 +64,10 @@ entry* MakeEntry(int directory, const char* rawName, const Westring& name, struc
 class DirectorySource : public EntrySource {
  public:
   DirectorySource(const Westring& directoryPath, const wchar_t* nameMask, uint32_t attributeWord)
-      : path(directoryPath), mask(nameMask), takesAll(wcscmp(nameMask, L"*") == 0), attributes(attributeWord) {}
+      : path(directoryPath),
+        mask(nameMask),
+        takesAll(wcscmp(nameMask, L"*") == 0),
+        attributes(attributeWord) {}
   ~DirectorySource() override { Close(); }
 
   int First(entry*& e) override {

@@ -19,7 +19,7 @@ class EntrySource {
 };
 
 enum ScanAttribute : uint32_t {
-  kScanHidden = 8,             // without it names that begin with "." are left out
+  kScanHidden = 8,  // without it names that begin with "." are left out
   kScanAll = 1 + 2 + 8,
   kScanDirectories = 1 << 17,  // only directories
 };
@@ -40,7 +40,7 @@ class ArchiveLevel {
   virtual ~ArchiveLevel() = default;
 
   const Westring& Path() const { return path; }  // as the panel shows it
-  virtual bool StillThere() const = 0;            // its file exists
+  virtual bool StillThere() const = 0;           // its file exists
   // Entries of the interior directory, ".." first.
   virtual std::unique_ptr<EntrySource> Open(const Westring& interior) = 0;
   // The attributes of an interior path; false if there is none.

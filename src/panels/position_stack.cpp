@@ -44,7 +44,9 @@ void CPosStack::Remember(const Westring& path, int top, const Westring& name) {
   position->name = name;
 }
 
-int CPosStack::CompareKeys(const Westring* a, const Westring* b) const { return wcscmp(a->Text(), b->Text()); }
+int CPosStack::CompareKeys(const Westring* a, const Westring* b) const {
+  return wcscmp(a->Text(), b->Text());
+}
 
 CLinkTargetCache& CLinkTargetCache::operator=(const CLinkTargetCache& other) {
   CopyItems(*this, other);

@@ -86,8 +86,7 @@ constexpr void (*kSorts[kSortKeys])(entry** list, int count) = {
 
 // Of two rows with one name the settings mean the first.
 const char* const kSortNames[kSortKeys] = {
-    "name",  "extension",  "time",  "size",  "unsorted",
-    "rname", "rextension", "rtime", "rsize", "unsorted",
+    "name", "extension", "time", "size", "unsorted", "rname", "rextension", "rtime", "rsize", "unsorted",
 };
 
 int CompareNames(const wchar_t* a, const wchar_t* b) { return CompareFileNames(a, b); }

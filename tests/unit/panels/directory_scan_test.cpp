@@ -169,8 +169,8 @@ TEST(DirectoryScan, OwnersAreCutToSixteenBits) {
 TEST(DirectoryScan, NamesOfAnyBytesAreListed) {
   ScratchDirectory scratch;
   const std::string longest(255, 'n');
-  for (const std::string& name : {std::string("a\nb"), std::string("\x01\x1b[31m"), std::string("bad\xff\xfe"),
-                                  std::string("\xc3\xa4\xe2\x82\xac"), longest}) {
+  for (const std::string& name : {std::string("a\nb"), std::string("\x01\x1b[31m"),
+                                  std::string("bad\xff\xfe"), std::string("\xc3\xa4\xe2\x82\xac"), longest}) {
     scratch.Write(name, "x");
   }
   const auto found = Scan(scratch.Path());

@@ -17,8 +17,8 @@ struct FakeMember {
 struct FakeArchive {
   std::map<std::wstring, std::vector<FakeMember>> directories;  // by interior path, "" for the top
   bool exists = true;
-  int openError = 0;     // what the source's First gives in place of entries
-  int stopBehind = -1;   // the user asks to stop when so many entries were given
+  int openError = 0;    // what the source's First gives in place of entries
+  int stopBehind = -1;  // the user asks to stop when so many entries were given
 };
 
 // What the hook finds at a path, and what became of it.

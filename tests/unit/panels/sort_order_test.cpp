@@ -76,8 +76,11 @@ TEST(SortOrder, TheExtensionIsBehindTheLastDotEvenALeadingOne) {
 }
 
 TEST(SortOrder, ByTimeTheNewestFirstAndNanosecondsBreakTies) {
-  const std::vector<Item> items = {
-      {L"old", 0, {5, 100}}, {L"new", 0, {0, 200}}, {L"newer", 0, {1, 200}}, {L"b", 0, {9, 50}}, {L"a", 0, {9, 50}}};
+  const std::vector<Item> items = {{L"old", 0, {5, 100}},
+                                   {L"new", 0, {0, 200}},
+                                   {L"newer", 0, {1, 200}},
+                                   {L"b", 0, {9, 50}},
+                                   {L"a", 0, {9, 50}}};
   EXPECT_EQ(Sorted(items, kTime), L"newer new old a b");
   EXPECT_EQ(Sorted(items, kRTime), L"b a old new newer");
 }
@@ -162,8 +165,8 @@ TEST(SortOrder, NamesWithoutAConsistentOrderAreOnlyMoved) {
 
 TEST(SortOrder, TheNamesOfTheKeysAreThoseOfTheSettings) {
   const Names names(kSortNames, kSortNames + kSortKeys);
-  EXPECT_EQ(names, (Names{"name", "extension", "time", "size", "unsorted", "rname", "rextension", "rtime", "rsize",
-                          "unsorted"}));
+  EXPECT_EQ(names, (Names{"name", "extension", "time", "size", "unsorted", "rname", "rextension", "rtime",
+                          "rsize", "unsorted"}));
 }
 
 class SetSortTest : public TwoPanels {};

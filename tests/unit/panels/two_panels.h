@@ -58,7 +58,9 @@ class TwoPanels : public testing::Test {
     for (int i = 0; i < panel.count; ++i) names.push_back(Narrow(panel.entries[i]->name));
     return names;
   }
-  static std::string Under(const TPanel& panel) { return panel.Current() ? Narrow(panel.Current()->name) : ""; }
+  static std::string Under(const TPanel& panel) {
+    return panel.Current() ? Narrow(panel.Current()->name) : "";
+  }
   static std::string PathOf(const TPanel& panel) { return Narrow(panel.path); }
 
   static entry* EntryOf(const TPanel& panel, const std::string& name) {
