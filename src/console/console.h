@@ -80,7 +80,8 @@ class CConsole {
   void SetCodePage(int page);  // 0 is ignored
   int CodePage() const;
 
-  // Blocks drawn so far; tells whether a repaint cost anything.
+  // Blocks drawn so far by calls of this class; tells whether a repaint cost
+  // anything. The blinking cursor and the selection do not count.
   uint64_t DrawCount() const;
 
  private:
