@@ -1,0 +1,30 @@
+// A new content for a file, written beside it and put in its place at once: a
+// kill at any moment leaves the old or the new file, never a part.
+#pragma once
+
+#include "foundation/std_file.h"
+#include "foundation/strings.h"
+
+class ReplacementFile {
+ public:
+  // Without Commit the scratch file goes.
+  ~ReplacementFile();
+
+  // Opens the scratch file beside path, or where path is a symbolic link, beside
+  // its target. Its name has "!!!" for the last three characters; no other
+  // process can have it open this way at the same time. Returns 0 or errno.
+  int Open(const Westring& path);
+  StdFile& File() { return file; }
+  Westring ScratchPath() const { return Westring(scratch.Text()); }
+
+  // Brings the content to the disk and puts it over the old file, whose mode and
+  // owner it has got. 0 or errno; after an error the old file is as it was.
+  int Commit();
+
+ private:
+  int OpenLocked();
+
+  StdFile file;
+  Estring target, scratch;
+  bool isOurs = false;  // the scratch file may be removed
+};
