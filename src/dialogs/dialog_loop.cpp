@@ -80,7 +80,6 @@ void GetDialogEvent(DialogEvent& event, int timeoutMs) {
 
 int Dialog::Run(int timeoutMs) {
   result = 0;
-  pressedOutside = false;
   Console->SetCursorSize(0);
   if (!HasControls(*this)) AddExitKey(kEscape);
   {

@@ -47,6 +47,19 @@ TEST_F(DialogTest, TabLandsOnTheLastUsedOfAGroupThatWasNotStarted) {
   dialog->Run();
 }
 
+TEST_F(DialogTest, TabGoesOnItsWayFromTheFirstOfAGroupIfThatTakesNoFocus) {
+  AddProbe(true);
+  AddProbe(true)->focusable = false;
+  AddProbe(false);
+  AddProbe(false);
+  Keys("Tab");
+  Then([&] { EXPECT_EQ(dialog->Focus(), 2); });
+  Keys("Tab Shift-Tab");
+  Then([&] { EXPECT_EQ(dialog->Focus(), 3); });
+  Keys("Esc");
+  dialog->Run();
+}
+
 TEST_F(DialogTest, TheFocusStartsOnTheFirstElementThatTakesIt) {
   dialog->AddStaticText(0, 0, "Name:");
   AddProbe(false);
@@ -84,6 +97,10 @@ TEST_F(DialogTest, TheNewElementHearsFirstThenTheOldThenTheLastOfTheGroup) {
   log.clear();
   dialog->SetFocus(1);
   EXPECT_EQ(log, (Log{"in 1", "out 3"}));
+  dialog->SetFocus(0);
+  log.clear();
+  dialog->SetFocus(1);
+  EXPECT_EQ(log, (Log{"in 1", "out 0"}));  // which was the last of its group itself
   log.clear();
   dialog->SetFocus(1);
   dialog->SetFocus(-1);

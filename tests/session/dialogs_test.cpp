@@ -115,6 +115,15 @@ TEST_F(DialogTest, APressInsideAndReleaseOutsideDoNotCancel) {
   EXPECT_EQ(dialog->Run(), kEnter);
 }
 
+TEST_F(DialogTest, ATimeLimitBetweenPressAndReleaseOutsideIsNothing) {
+  AddProbe(true);
+  Mouse(kEventPress, 1, 0, 0);
+  Silence();
+  Mouse(kEventRelease, 1, 0, 0);
+  EXPECT_EQ(dialog->Run(1), 0);
+  EXPECT_EQ(dialog->Run(), kEscape);
+}
+
 TEST_F(DialogTest, AnythingBetweenPressAndReleaseOutsideKeepsItOpen) {
   AddProbe(true);
   Mouse(kEventPress, 1, 0, 0);

@@ -38,7 +38,7 @@ class ConsoleFixture : public testing::Test {
 
   ConsoleFixture() {
     files.Make({{"home/", ""}, {"temp/", ""}});
-    EnterTestEnvironment(files, display.Name());
+    EnterTestEnvironment(files, Display().Name());
     toolkit.emplace(argc, argv);
     console = std::make_unique<CConsole>();
     Console = console.get();
@@ -138,6 +138,12 @@ class ConsoleFixture : public testing::Test {
   }
 
  private:
+  // One for all tests of a process: the toolkit connects once.
+  static VirtualDisplay& Display() {
+    static VirtualDisplay display;
+    return display;
+  }
+
   static Key CodeOf(const KeyStroke& stroke) {
     if (stroke.kind == KeyStroke::kText) return stroke.text;
     if (stroke.kind != KeyStroke::kKey) return kModifierKey;
@@ -162,7 +168,6 @@ class ConsoleFixture : public testing::Test {
   inline static ConsoleFixture* running = nullptr;
 
   Sandbox files;
-  VirtualDisplay display;
   char name[8] = "session";
   char* arguments[2] = {name, nullptr};
   int argc = 1;
