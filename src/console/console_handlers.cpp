@@ -1,7 +1,5 @@
 // What the GUI thread does with keys and mouse: decide, queue, select text.
 // No handler waits for the application.
-#include <algorithm>
-
 #include "console/clipboard.h"
 #include "console/console_window.h"
 #include "console/input.h"
@@ -48,13 +46,9 @@ void CConsoleWindow::HandleKey(GdkEventKey* event) {
 }
 
 void CConsoleWindow::QueueKey(Key code, uint32_t modifiers, uint32_t hardware) {
-  auto* event = new TEvent;
-  event->type = kEventKey;
-  event->code = static_cast<int32_t>(code);
-  event->modifiers = static_cast<int32_t>(modifiers);
-  event->keycode = static_cast<int32_t>(hardware);
   blink.Restart();
-  events.Put(event);
+  events.Put(new TEvent{kEventKey, static_cast<int32_t>(code), static_cast<int32_t>(modifiers),
+                        static_cast<int32_t>(hardware), 0, 0});
 }
 
 bool CConsoleWindow::on_delete_event(GdkEventAny*) {
@@ -100,13 +94,7 @@ bool CConsoleWindow::on_focus_out_event(GdkEventFocus* event) {
 // ---- mouse -------------------------------------------------------------------
 
 void CConsoleWindow::QueueMouse(EventType type, int code, uint32_t modifiers, double x, double y) {
-  auto* event = new TEvent;
-  event->type = type;
-  event->code = code;
-  event->modifiers = static_cast<int32_t>(modifiers & kModMask);
-  event->x = CellX(x);
-  event->y = CellY(y);
-  events.Put(event);
+  events.Put(new TEvent{type, code, static_cast<int32_t>(modifiers & kModMask), 0, CellX(x), CellY(y)});
 }
 
 bool CConsoleWindow::on_button_press_event(GdkEventButton* event) {

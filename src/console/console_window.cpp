@@ -96,6 +96,7 @@ void CConsoleWindow::Layout(int columns, int rows, int points) {
   selection.Clear();
   const int width = size.columns * painter.CellWidth(), height = size.rows * painter.CellHeight();
   area.SetPicture(width, height);
+  area.queue_draw();  // the window may keep its size and still show the old screen
   resize(width, height);
 }
 

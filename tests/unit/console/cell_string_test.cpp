@@ -56,7 +56,8 @@ TEST(CellStrings, CopiesAreTheirOwn) {
   EXPECT_EQ(TextOf(copy), L"a text longer than the cells inside");
   EXPECT_EQ(copy.attribute, 0x1E);
   EXPECT_EQ(copy[3].attribute, 0x1E);
-  copy = copy;
+  const CellString& itself = copy;
+  copy = itself;
   EXPECT_EQ(copy.Length(), 35);
 }
 
