@@ -31,11 +31,11 @@ Westring DirectoryMark(const entry& e, int width) {
   return mark;
 }
 
-// The first value that does not fit into so many digits. Fields of ten digits
-// and more take every size.
+// A field of more digits takes every size whole.
+constexpr int kMostLimitedDigits = 9;
+
+// The first value that is too large for so many digits.
 int64_t DigitLimit(int digits) {
-  constexpr int kLimitedDigits = 9;
-  if (digits > kLimitedDigits) return INT64_MAX;
   int64_t limit = 1;
   while (digits-- > 0) limit *= 10;
   return limit;
@@ -44,7 +44,7 @@ int64_t DigitLimit(int digits) {
 // Whole, in K or in M. What is too large even then goes on to larger units: a
 // number cut to fit would be a wrong one.
 Westring PlainSize(int64_t size, int width) {
-  if (size < DigitLimit(width)) return Westring(Estring::FromLong(size));
+  if (width > kMostLimitedDigits || size < DigitLimit(width)) return Westring(Estring::FromLong(size));
   constexpr wchar_t kUnits[] = L"KMGTPE";
   constexpr int kLastUnit = 5;
   int unit = 0;
@@ -132,7 +132,8 @@ Westring SizeText(const entry& e, int width) {
     text = DirectoryMark(e, width);
   else if (e.size >= 0)
     text = Options::ThousandSep ? GroupedSize(e.size, width) : PlainSize(e.size, width);
-  return RJust(text, width);
+  const bool whole = width > kMostLimitedDigits && !Options::ThousandSep;
+  return RJust(text, whole ? std::max(width, Length(text)) : width);
 }
 
 Westring DateText(const FileTime& time, int width) {

@@ -4,7 +4,8 @@
 #include "foundation/strings.h"
 #include "panels/entry.h"
 
-// What the size column shows, right-justified in width.
+// What the size column shows, right-justified in width. Plain digits may be
+// longer than a width of ten or more, in which every size is whole.
 Westring SizeText(const entry& e, int width);
 
 // Local time in the locale's order and separator; blanks for no date.

@@ -51,15 +51,24 @@ CellString EmptyRow(uint8_t colour) {
   return row;
 }
 
+// The name gives up what a field takes beyond its column.
 CellString BuildColumnsRow(const RowStyle& in, int style) {
-  CellString row = EmptyRow(in.colour);
-  for (int column = 0; column < ColumnCount(style); ++column) {
-    if (column > 0) row.Append(SeparatorIn(in.colour));
+  const int columns = ColumnCount(style);
+  Westring texts[kMaxColumns];
+  int nameWidth = NameWidth(style);
+  for (int column = 0; column < columns; ++column) {
+    if (kFields[style][column] == kName) continue;
     const int width = ColumnTable[style][column].width;
-    if (const FieldText text = kFields[style][column])
-      row.Append(text(in.e, width).Text(), in.colour);
+    texts[column] = kFields[style][column](in.e, width);
+    nameWidth -= Length(texts[column]) - width;
+  }
+  CellString row = EmptyRow(in.colour);
+  for (int column = 0; column < columns; ++column) {
+    if (column > 0) row.Append(SeparatorIn(in.colour));
+    if (kFields[style][column] == kName)
+      row.Append(BuildNameField(in.panel, in.e, nameWidth, in.colour, in.scroll));
     else
-      row.Append(BuildNameField(in.panel, in.e, width, in.colour, in.scroll));
+      row.Append(texts[column].Text(), in.colour);
   }
   FitCells(row, InnerColumns());
   return row;

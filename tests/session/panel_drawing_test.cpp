@@ -242,7 +242,7 @@ TEST_F(PanelDrawing, BarOfBriefIsOneColumnWide) {
 
 TEST_F(PanelDrawing, BarShowsTheScrolledNameAndOnlyWhileItIsOn) {
   Add(L"abcdefghijklmnopqrst");
-  Add(L"second");
+  Add(L"another long name");
   Open();
   panel.nameScroll = 3;
   panel.nameScrollEntry = 0;
@@ -255,8 +255,8 @@ TEST_F(PanelDrawing, BarShowsTheScrolledNameAndOnlyWhileItIsOn) {
   EXPECT_TRUE(Left(1).StartsWith("║hijklmnopqrst│"));
   EXPECT_EQ(panel.nameScroll, 7);
   Step(1);
-  EXPECT_TRUE(Left(2).StartsWith("║second       │"));
-  EXPECT_EQ(Left(kStatusRow), "║second                                ║");
+  EXPECT_TRUE(Left(2).StartsWith("║another long►│"));
+  EXPECT_EQ(panel.nameScroll, 7);
 }
 
 TEST_F(PanelDrawing, EmptyPanelHasNoBarButAStatusLine) {
@@ -300,12 +300,21 @@ TEST_F(PanelDrawing, StepInsideTheWindowDrawsTwoRowsAndTheStatusLine) {
 }
 
 TEST_F(PanelDrawing, ScrollByOneDrawsNoOtherRowThanTheNewOne) {
-  AddVariety(30);
-  panel.cursorRow = 4;
-  Open();
-  DrawCursor(0, true);
-  // The bar goes, the vacated row, the new row, its bar, and the status line.
-  EXPECT_LE(Draws([&] { Step(1); }), 5u);
+  AddVariety(60);
+  for (int style : kStyles) {
+    panel.style = style;
+    panel.topIndex = 0;
+    panel.cursorRow = VisibleEntries(style, PanelRows) - 1;
+    Open();
+    DrawCursor(0, true);
+    Console->PutString(2, 3, L"(mark)", 0x4F);  // moves with its row and nobody paints over it
+    // The bar goes, the vacated row, the new row, its bar, and the status line.
+    EXPECT_LE(Draws([&] { Step(1); }), 5u) << style;
+    EXPECT_EQ(Text(2, 2, 6), "(mark)") << style;
+    panel.cursorRow = 0;
+    Step(-1);
+    EXPECT_EQ(Text(2, 3, 6), "(mark)") << style;
+  }
 }
 
 TEST_F(PanelDrawing, OnlyRowsThatAreDrawnAreLookedInto) {

@@ -75,6 +75,20 @@ TEST_F(EntryRow, UnixHasPermissionsOwnerAndGroup) {
   EXPECT_EQ(TextOf(Row(0)), L"readme.txt  \x2502   1234\x2502rw-r--r--\x2502" + owner + L"\x2502" + group);
 }
 
+TEST_F(EntryRow, NameMakesRoomForASizeOfElevenDigits) {
+  SetSize(48, 5);
+  Add(L"abcdefghijklmnopqrstu", 10000000000);
+  EXPECT_EQ(TextOf(Row(0)), L"abcdefghijklmnopqrs" + kMark +
+                                L"\x2502"
+                                L"10000000000\x2502"
+                                L"03/05/24\x2502 14:07");
+  SetStyle(kStyleWide);
+  EXPECT_EQ(TextOf(Row(0)),
+            L"10000000000\x2502"
+            L"abcdefghijklmnopqrstu" +
+                wstring(15, L' '));
+}
+
 TEST_F(EntryRow, BriefIsTheNameFieldOfItsColumn) {
   SetSize(48, 5);
   SetStyle(kStyleBrief);
@@ -374,6 +388,6 @@ TEST_F(EntryRow, RowsAreAsWideAsThePanelWhateverTheyShow) {
     const int column = SlotColumn(style, PanelRows, -panel.topIndex);
     ASSERT_EQ(row.Length(), NameColumns(style) > 1 ? NameWidth(style, column) : inner) << "style " << style;
     ASSERT_EQ(BuildListRow(panel, dice.Pick(8)).Length(), inner) << "style " << style;
-    for (int i = 0; i < row.Length(); ++i) ASSERT_NE(row[i].character, 0);
+    ASSERT_EQ(TextOf(row).find(L'\0'), wstring::npos);
   }
 }

@@ -132,8 +132,8 @@ TEST_F(PanelFrame, NarrowPanelsHaveOnlyTheBordersThatFit) {
     ComputeColumns(inner);
     for (int style = 0; style <= kStyleTree; ++style) {
       EXPECT_EQ(BuildDivider(style, inner).Length(), inner + 2);
-      EXPECT_EQ(BuildDivider(style, inner)[inner + 1].character, 0x2562);
-      EXPECT_EQ(BuildBottomFrame(style, inner)[inner + 1].character, 0x255D);
+      EXPECT_EQ(TextOf(BuildDivider(style, inner)).back(), 0x2562);
+      EXPECT_EQ(TextOf(BuildBottomFrame(style, inner)).back(), 0x255D);
     }
   }
 }
