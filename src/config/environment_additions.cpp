@@ -12,7 +12,7 @@ namespace {
 Estring Expanded(const Estring& text) { return ToUtf8(ExpandEnvironment(Westring(text.Text()))); }
 
 EnvironmentAddition* FindAddition(const Estring& name) {
-  for (int i = 0; EnvironmentAddition* addition = EnvironmentAdditions.Peek(i); i++)
+  for (int i = 0; EnvironmentAddition* addition = EnvironmentAdditions.Peek(i); ++i)
     if (addition->name == name) return addition;
   return nullptr;
 }
@@ -41,7 +41,7 @@ void AddToEnvironment(const Estring& name, const Estring& text) {
 }
 
 void RemoveEnvironmentAdditions() {
-  for (int i = 0; const EnvironmentAddition* addition = EnvironmentAdditions.Peek(i); i++) {
+  for (int i = 0; const EnvironmentAddition* addition = EnvironmentAdditions.Peek(i); ++i) {
     const char* now = Variables.Get(addition->name.Text());
     if (!now || strcmp(now, addition->value.Text()) != 0) continue;
     Variables.Set(addition->name.Text(), addition->hadBefore ? addition->before.Text() : nullptr);

@@ -18,7 +18,7 @@ int Number(const char* text, char** end = nullptr) {
 
 // The index of text in names, without regard to case, or fallback.
 int NameIndex(std::span<const char* const> names, const char* text, int fallback) {
-  for (size_t i = 0; i < names.size(); i++)
+  for (size_t i = 0; i < names.size(); ++i)
     if (Compare(names[i], text) == 0) return static_cast<int>(i);
   return fallback;
 }
@@ -81,7 +81,7 @@ Estring TypeText(const void* store) {
 // A shorter list leaves the tail as it was.
 void SetColours(void* store, const char* text) {
   auto* colours = static_cast<uint8_t*>(store);
-  for (int i = 0; i < kColourCount; i++) {
+  for (int i = 0; i < kColourCount; ++i) {
     char* end = nullptr;
     const int value = Number(text, &end);
     if (end == text) return;
@@ -92,7 +92,7 @@ void SetColours(void* store, const char* text) {
 Estring ColoursText(const void* store) {
   const auto* colours = static_cast<const uint8_t*>(store);
   Estring text;
-  for (int i = 0; i < kColourCount; i++) text += Estring::Format("%d ", colours[i]);
+  for (int i = 0; i < kColourCount; ++i) text += Estring::Format("%d ", colours[i]);
   return text;
 }
 

@@ -26,7 +26,7 @@ int NameStart(const Estring& path) { return RFind(path, '/') + 1; }
 
 // Follows links at the end of path, also to a file that is not there yet.
 int FollowLinks(Estring& path) {
-  for (int i = 0; i < kMostLinks; i++) {
+  for (int i = 0; i < kMostLinks; ++i) {
     char text[PATH_MAX];
     const ssize_t length = readlink(path.Text(), text, sizeof text - 1);
     if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
@@ -79,7 +79,7 @@ ReplacementFile::~ReplacementFile() {
 // makes the second wait, and then find that its scratch file has been renamed.
 // File systems without locks do without.
 int ReplacementFile::OpenLocked() {
-  for (int attempt = 0; attempt < kLockAttempts; attempt++) {
+  for (int attempt = 0; attempt < kLockAttempts; ++attempt) {
     RemoveOddScratch(scratch);
     int code = file.Open(scratch.Text(), kOpenWrite | kOpenCreate | kOpenAppend);
     if (code == EACCES && unlink(scratch.Text()) == 0)  // the mode of an old file, left by a crash

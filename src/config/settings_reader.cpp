@@ -42,7 +42,7 @@ void Complain(const Westring& text, const Westring& detail) {
 // ---- one line --------------------------------------------------------------
 
 int FindHead(const char* text) {
-  for (int i = 0; i < kSectionCount; i++)
+  for (int i = 0; i < kSectionCount; ++i)
     if (strcmp(text, kSectionHeads[i]) == 0) return i;
   return -1;
 }
@@ -73,7 +73,7 @@ void TakeArchiverValue(const Estring& key, const Estring& value, int section) {
 }
 
 const OptionRow* FindOption(const Estring& key) {
-  for (int i = 0; i < kOptionCount; i++)
+  for (int i = 0; i < kOptionCount; ++i)
     if (key == kOptionTable[i].key) return &kOptionTable[i];
   return nullptr;
 }
@@ -149,7 +149,7 @@ void BoundOptions() {
 }  // namespace
 
 void SetDefaultOptions() {
-  for (int i = 0; i < kOptionCount; i++)
+  for (int i = 0; i < kOptionCount; ++i)
     if (kOptionTable[i].store) SetOption(kOptionTable[i], kOptionTable[i].defaultText);
   for (Westring& path : StoredPaths) path = L"";
 }

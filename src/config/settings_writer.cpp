@@ -22,7 +22,7 @@ Estring CutToLine(const Estring& text) {
   int length = Length(text);
   if (length <= kLongestSettingsLine) return text;
   length = kLongestSettingsLine;
-  for (int back = 0; back < 3 && (text[length] & 0xC0) == 0x80; back++) length--;
+  for (int back = 0; back < 3 && (text[length] & 0xC0) == 0x80; ++back) length--;
   return Left(text, length);
 }
 
@@ -33,7 +33,7 @@ class LineWriter {
 
   void Line(const Estring& text) {
     Estring line = CutToLine(text);
-    for (char* p = line.Text(); *p; p++)
+    for (char* p = line.Text(); *p; ++p)
       if (*p == '\n' || *p == '\r') *p = ' ';
     if (error == 0) error = file.Write(line.Text(), strlen(line.Text()));
     if (error == 0) error = file.Write("\r\n", 2);
@@ -57,9 +57,9 @@ Estring TestText(const Westring& test) {
 }
 
 void WritePairs(LineWriter& out) {
-  for (int i = 0; i < kAssociationStoreCount; i++) {
+  for (int i = 0; i < kAssociationStoreCount; ++i) {
     out.Line(kSectionHeads[kSectionAssociations + i]);
-    for (int n = 0; const Association* pair = kAssociationStores[i]->Peek(n); n++) {
+    for (int n = 0; const Association* pair = kAssociationStores[i]->Peek(n); ++n) {
       const Estring test = TestText(pair->test);
       if (!test.IsEmpty()) out.Line(test + ": " + ToUtf8(pair->value));
     }
@@ -69,13 +69,13 @@ void WritePairs(LineWriter& out) {
 
 void WriteEnvironment(LineWriter& out) {
   out.Line(kSectionHeads[kSectionEnvironment]);
-  for (int i = 0; const EnvironmentAddition* addition = EnvironmentAdditions.Peek(i); i++)
+  for (int i = 0; const EnvironmentAddition* addition = EnvironmentAdditions.Peek(i); ++i)
     out.Value(addition->name, WrittenValue(*addition));
   out.Blank();
 }
 
 void WriteArchivers(LineWriter& out) {
-  for (int i = 0; i < kArchiverCount; i++) {
+  for (int i = 0; i < kArchiverCount; ++i) {
     out.Line(kSectionHeads[i]);
     for (const ArchiverKey& key : kArchiverKeys) out.Value(key.name, Archivers[i].*key.field);
     out.Blank();
@@ -84,10 +84,10 @@ void WriteArchivers(LineWriter& out) {
 
 void WriteOptions(LineWriter& out) {
   out.Line(kSectionHeads[kSectionGeneral]);
-  for (int i = 0; i < kOptionCount; i++)
+  for (int i = 0; i < kOptionCount; ++i)
     if (kOptionTable[i].store) out.Value(kOptionTable[i].key, OptionText(kOptionTable[i]));
   out.Blank();
-  for (int i = 0; i < kStoredPaths; i++)
+  for (int i = 0; i < kStoredPaths; ++i)
     if (!StoredPaths[i].IsEmpty()) out.Value(Estring::Format("d%d", i), ToUtf8(StoredPaths[i]));
 }
 

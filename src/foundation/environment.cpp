@@ -42,7 +42,7 @@ void Environment::Set(const char* name, const char* value) {
 
 void Environment::CopyTo(Environment& other) {
   if (parent) parent->CopyTo(other);
-  for (int64_t i = 0; const KeyedValue* item = Peek(i); i++) other.Set(item->key.Text(), item->value.Text());
+  for (int64_t i = 0; const KeyedValue* item = Peek(i); ++i) other.Set(item->key.Text(), item->value.Text());
 }
 
 const char* Environment::Block() {
@@ -57,12 +57,12 @@ const char* Environment::Block() {
   }
 
   size_t size = 1;
-  for (int64_t i = 0; const KeyedValue* item = copy.Peek(i); i++)
+  for (int64_t i = 0; const KeyedValue* item = copy.Peek(i); ++i)
     if (!item->value.IsEmpty()) size += strlen(item->key.Text()) + strlen(item->value.Text()) + 2;
 
   block.reset(new char[size]);
   char* next = block.get();
-  for (int64_t i = 0; const KeyedValue* item = copy.Peek(i); i++)
+  for (int64_t i = 0; const KeyedValue* item = copy.Peek(i); ++i)
     if (!item->value.IsEmpty()) next += sprintf(next, "%s=%s", item->key.Text(), item->value.Text()) + 1;
   *next = 0;
   return block.get();
@@ -70,7 +70,7 @@ const char* Environment::Block() {
 
 void ProcessEnvironment::Load() {
   Clear();
-  for (char** entry = environ; entry && *entry; entry++) {
+  for (char** entry = environ; entry && *entry; ++entry) {
     const char* equals = strchr(*entry, '=');
     if (!equals) continue;
     Set(Left(Estring(*entry), static_cast<int>(equals - *entry)).Text(), equals + 1);

@@ -4,6 +4,7 @@
 // full of stars costs pattern length times name length, not a power of it.
 #include "foundation/wildcards.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstring>
 #include <cwchar>
@@ -53,9 +54,9 @@ const std::multimap<wchar_t, wchar_t>& LatinFoldSources() {
   static const std::multimap<wchar_t, wchar_t> sources = [] {
     constexpr wchar_t kFoldedValues = 0x8000;  // FoldChar leaves all above alone
     std::vector<bool> wanted(kFoldedValues);
-    for (wchar_t c = 0; c < 256; c++) wanted[static_cast<size_t>(FoldChar(c))] = true;
+    for (wchar_t c = 0; c < 256; ++c) wanted[static_cast<size_t>(FoldChar(c))] = true;
     std::multimap<wchar_t, wchar_t> found;
-    for (wchar_t c = 0; c < kFoldedValues; c++) {
+    for (wchar_t c = 0; c < kFoldedValues; ++c) {
       const wchar_t folded = FoldChar(c);
       if (folded >= 0 && folded < kFoldedValues && wanted[static_cast<size_t>(folded)])
         found.emplace(folded, c);
@@ -92,7 +93,7 @@ bool SetHolds(const typename Fold::Char* p, const typename Fold::Char* end, type
   }
   bool hasPrevious = false;
   int previous = 0;
-  for (; p < end; p++) {
+  for (; p < end; ++p) {
     if (*p == '^') {
       adding = !adding;
       hasPrevious = false;
@@ -170,6 +171,25 @@ struct Alternative {
   size_t length;  // in characters of the name
 };
 
+// A set of places of a name, from 0 up to its length, that knows its ends.
+class Places {
+ public:
+  explicit Places(size_t nameLength) : held(nameLength + 1), first(nameLength + 1) {}
+
+  void Add(size_t place) {
+    held[place] = true;
+    first = std::min(first, place);
+    last = std::max(last, place);
+  }
+  bool Has(size_t place) const { return held[place]; }
+  size_t First() const { return first; }
+  size_t Last() const { return last; }
+
+ private:
+  std::vector<bool> held;
+  size_t first, last = 0;
+};
+
 // Matches a pattern with alternatives: carries the set of places of the name
 // that can be reached, through the pattern from left to right.
 template <class Fold>
@@ -181,13 +201,13 @@ class AlternativesMatcher {
       : rules(patternText), pattern(patternText), name(nameText), nameLength(TextLength(nameText)) {}
 
   bool Run() {
-    Reach(pattern)[0] = true;
+    Reach(pattern, 0);
     while (!reachable.empty()) {
       const auto first = reachable.begin();
       const Char* p = first->first;
       const Places places = std::move(first->second);
       reachable.erase(first);
-      if (!*p) return places[nameLength];
+      if (!*p) return places.Has(nameLength);
       if (*p == '*') {
         TakeStar(p, places);
       } else {
@@ -199,28 +219,17 @@ class AlternativesMatcher {
   }
 
  private:
-  using Places = std::vector<bool>;
-
-  Places& Reach(const Char* p) {
-    Places& places = reachable[p];
-    if (places.empty()) places.resize(nameLength + 1);
-    return places;
-  }
+  void Reach(const Char* p, size_t place) { reachable.try_emplace(p, nameLength).first->second.Add(place); }
 
   void TakeStar(const Char* p, const Places& places) {
-    Places& next = Reach(p + 1);
-    bool reached = false;
-    for (size_t i = 0; i <= nameLength; i++) {
-      reached = reached || places[i];
-      if (reached) next[i] = true;
-    }
+    for (size_t i = places.First(); i <= nameLength; ++i) Reach(p + 1, i);
   }
 
   void TakeOne(const Char* p, const Places& places) {
     const Char* behind = rules.Behind(p);
-    for (size_t i = 0; i < nameLength; i++) {
+    for (size_t i = places.First(); i <= places.Last() && i < nameLength; ++i) {
       const Char* element = p;
-      if (places[i] && rules.MatchOne(element, name[i])) Reach(behind)[i + 1] = true;
+      if (places.Has(i) && rules.MatchOne(element, name[i])) Reach(behind, i + 1);
     }
   }
 
@@ -229,8 +238,8 @@ class AlternativesMatcher {
     const Char* behind = Split(p, alternatives);
     if (!behind) return;
     for (const auto& alternative : alternatives)
-      for (size_t i = 0; i + alternative.length <= nameLength; i++)
-        if (places[i] && Matches(alternative, name + i)) Reach(behind)[i + alternative.length] = true;
+      for (size_t i = places.First(); i <= places.Last() && i + alternative.length <= nameLength; ++i)
+        if (places.Has(i) && Matches(alternative, name + i)) Reach(behind, i + alternative.length);
   }
 
   // The alternatives of the "{" at p, and the place behind its "}"; null if the
@@ -283,7 +292,7 @@ bool WildMatchW(const wchar_t* pattern, const wchar_t* name) { return Match<Wide
 
 void ApplyRenameMask(const wchar_t* source, const wchar_t* mask, Westring& target) {
   Westring result;
-  for (; *mask; mask++) {
+  for (; *mask; ++mask) {
     if (*mask == L'*') {
       while (*source && *source != L'.') result += *source++;
     } else if (*mask == L'?') {

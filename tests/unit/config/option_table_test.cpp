@@ -14,7 +14,7 @@
 namespace {
 
 const OptionRow& Row(const std::string& key) {
-  for (int i = 0; i < kOptionCount; i++)
+  for (int i = 0; i < kOptionCount; ++i)
     if (key == kOptionTable[i].key) return kOptionTable[i];
   ADD_FAILURE() << key;
   return kOptionTable[0];
@@ -34,7 +34,7 @@ TEST_F(OptionTable, HasSeventyNineRowsOfWhichTwoHaveNoStore) {
   EXPECT_EQ(kOptionCount, 79);
   std::set<std::string> keys;
   std::set<const void*> stores;
-  for (int i = 0; i < kOptionCount; i++) {
+  for (int i = 0; i < kOptionCount; ++i) {
     keys.insert(kOptionTable[i].key);
     if (kOptionTable[i].store) stores.insert(kOptionTable[i].store);
   }
@@ -65,14 +65,14 @@ TEST_F(OptionTable, DefaultsOfEachType) {
 }
 
 TEST_F(OptionTable, DefaultColoursAreThoseOfTheColourTable) {
-  for (int i = 0; i < kColourCount; i++) EXPECT_EQ(Options::Colours[i], kDefaultColours[i]) << i;
+  for (int i = 0; i < kColourCount; ++i) EXPECT_EQ(Options::Colours[i], kDefaultColours[i]) << i;
   EXPECT_EQ(Options::Colours[kColourPanel], 0x1B);
   EXPECT_EQ(Options::Colours[kColourMenuQuickKey], 0x0E);
   EXPECT_EQ(Options::Colours[kColourClock], 0x30);
 }
 
 TEST_F(OptionTable, EveryDefaultReadsBackFromItsText) {
-  for (int i = 0; i < kOptionCount; i++) {
+  for (int i = 0; i < kOptionCount; ++i) {
     const OptionRow& row = kOptionTable[i];
     if (!row.store) continue;
     const std::string text = OptionText(row).Text();
@@ -127,7 +127,7 @@ TEST_F(OptionTable, TimeModeIs24OnlyForExactlyThat) {
 TEST_F(OptionTable, SortNamesInTheirOrder) {
   const char* names[] = {"name",  "extension",  "time",  "size", "unsorted",
                          "rname", "rextension", "rtime", "rsize"};
-  for (int i = 0; i < 9; i++) {
+  for (int i = 0; i < 9; ++i) {
     Set("LeftSort", names[i]);
     EXPECT_EQ(Options::LeftSort, i);
     EXPECT_EQ(TextOf("LeftSort"), names[i]);
@@ -140,7 +140,7 @@ TEST_F(OptionTable, SortNamesInTheirOrder) {
 
 TEST_F(OptionTable, TreeStyleIsWrittenButReadAsFull) {
   const char* names[] = {"brief", "full", "wide", "briefwide", "unix"};
-  for (int i = 0; i < 5; i++) {
+  for (int i = 0; i < 5; ++i) {
     Set("RightStyle", names[i]);
     EXPECT_EQ(Options::RightStyle, i);
     EXPECT_EQ(TextOf("RightStyle"), names[i]);
@@ -184,7 +184,7 @@ TEST_F(OptionTable, ShortColourListLeavesTheTail) {
 
 TEST_F(OptionTable, LongColourListStaysInside) {
   std::string text;
-  for (int i = 0; i < 1000; i++) text += "5 ";
+  for (int i = 0; i < 1000; ++i) text += "5 ";
   Set("Colours", text.c_str());
   EXPECT_EQ(Options::Colours[kColourCount - 1], 5);
 }
@@ -192,7 +192,7 @@ TEST_F(OptionTable, LongColourListStaysInside) {
 TEST(ArchiverDefaults, TenRecordsInTheirOrder) {
   SetArchiverDefaults();
   const char* names[] = {"ZIP", "RAR", "LHARC", "ARJ", "ACE", "HA", "GZIP", "TAR", "7ZIP", "BZIP2"};
-  for (int i = 0; i < kArchiverCount; i++) {
+  for (int i = 0; i < kArchiverCount; ++i) {
     EXPECT_STREQ(Archivers[i].name, names[i]);
     EXPECT_EQ(Archivers[i].unixPaths, std::string(names[i]) == "TAR");
   }

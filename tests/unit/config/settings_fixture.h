@@ -78,7 +78,7 @@ class SettingsTest : public testing::Test {
   // "test=value" of every pair.
   static std::vector<std::string> Pairs(const AssociationSet& store) {
     std::vector<std::string> pairs;
-    for (int i = 0; const Association* pair = store.Peek(i); i++)
+    for (int i = 0; const Association* pair = store.Peek(i); ++i)
       pairs.push_back(Text(pair->test) + "=" + Text(pair->value));
     return pairs;
   }

@@ -222,7 +222,7 @@ TEST_F(SettingsReader, ExpressionWithASyntaxErrorIsToldAndNotStored) {
 
 TEST_F(SettingsReader, EscSparesTheRestOfTheComplaintsOfThisRead) {
   std::string bad;
-  for (int i = 0; i < 5000; i++) bad += "bad=1\n(: x\n";
+  for (int i = 0; i < 5000; ++i) bad += "bad=1\n(: x\n";
   answer = kEscape;
   Load(bad + "Clock=on\n");
   EXPECT_EQ(prompts.size(), 1u);
@@ -400,7 +400,7 @@ TEST_F(SettingsReader, RandomBytesDoNoHarm) {
                           "$HOME",
                           "(",
                           "*"};
-  for (int round = 0; round < 300; round++) {
+  for (int round = 0; round < 300; ++round) {
     std::string content;
     while (content.size() < 600)
       if (random() % 2)

@@ -29,15 +29,15 @@ class SettingsWriter : public SettingsTest {
 // the ends: one default has one there, and the file can't hold it.
 std::string Everything() {
   std::string all;
-  for (int i = 0; i < kOptionCount; i++)
+  for (int i = 0; i < kOptionCount; ++i)
     if (kOptionTable[i].store) all += std::string(OptionText(kOptionTable[i]).Text()) + "\n";
   for (const Westring& path : StoredPaths) all += std::string(ToUtf8(path).Text()) + "\n";
   for (const ArchiverRecord& archiver : Archivers)
     for (const ArchiverKey& key : kArchiverKeys) all += std::string(Trim(archiver.*key.field).Text()) + "\n";
   for (const AssociationSet* store : kAssociationStores)
-    for (int i = 0; const Association* pair = store->Peek(i); i++)
+    for (int i = 0; const Association* pair = store->Peek(i); ++i)
       all += std::string(ToUtf8(pair->test).Text()) + "\t" + ToUtf8(pair->value).Text() + "\n";
-  for (int i = 0; const EnvironmentAddition* addition = EnvironmentAdditions.Peek(i); i++)
+  for (int i = 0; const EnvironmentAddition* addition = EnvironmentAdditions.Peek(i); ++i)
     all += std::string(addition->name.Text()) + "\t" + addition->value.Text() + "\n";
   return all;
 }
@@ -78,7 +78,7 @@ TEST_F(SettingsWriter, WritesEverySectionInItsOrder) {
     expected.push_back("");
   }
   expected.push_back("[General Options]");
-  for (int i = 0; i < kOptionCount; i++)
+  for (int i = 0; i < kOptionCount; ++i)
     if (kOptionTable[i].store)
       expected.push_back(std::string(kOptionTable[i].key) + "=" + OptionText(kOptionTable[i]).Text());
   expected.push_back("");
@@ -190,7 +190,7 @@ TEST_F(SettingsWriter, WhatTheFormatHoldsReadsBackTheSame) {
     Options::CmdChar = '=';
     Options::StartupSide = '[';
     Options::MaxHist = -12345;
-    for (int i = 0; i < 18; i++) Options::Colours[i] = static_cast<uint8_t>(255 - i);
+    for (int i = 0; i < 18; ++i) Options::Colours[i] = static_cast<uint8_t>(255 - i);
     ASSERT_TRUE(SaveSettings());
     const std::string before = Everything();
     LoadSettings(false);
@@ -222,7 +222,7 @@ TEST_F(SettingsWriter, AnyValueLeavesAllOthersAloneAndSettlesAtOnce) {
     if (random() % 20 == 0) text += L"\r\n[Colours]\r\n*: red\r\nClock=on\r\n";
     return text;
   };
-  for (int round = 0; round < 60; round++) {
+  for (int round = 0; round < 60; ++round) {
     LoadSettings(false);
     Options::Left = anyText();
     Options::Viewer = anyText();
@@ -250,9 +250,9 @@ TEST_F(SettingsWriter, AnyPairReadsBackOnceItHasBeenRead) {
   answer = kEscape;
   std::mt19937 random(29);
   const char letters[] = " \t:=[]()&|!*%\"ab\x01\xC3\xA4\xFF";
-  for (int round = 0; round < 200; round++) {
+  for (int round = 0; round < 200; ++round) {
     std::string content;
-    for (int line = 0; line < 5; line++) {
+    for (int line = 0; line < 5; ++line) {
       content += line == 2 ? "[Directory Colours]\n" : line == 4 ? "[Environment]\n" : "";
       for (auto n = random() % 20; n > 0; n--) content += letters[random() % (std::size(letters) - 1)];
       content += "\n";
@@ -287,7 +287,7 @@ TEST_F(SettingsWriter, PairsThatTheFormatCannotHoldBecomeTheNearestThatItCan) {
 }
 
 TEST_F(SettingsWriter, TooLongAValueIsCutBetweenCharacters) {
-  for (int shift = 0; shift < 4; shift++) {
+  for (int shift = 0; shift < 4; ++shift) {
     Options::Left = Westring::Replicate(L'a', shift) + Westring::Replicate(L'\u4E2D', 3000);
     ASSERT_TRUE(SaveSettings());
     const std::string value = SavedValue("Left");
@@ -408,7 +408,7 @@ TEST_F(SettingsWriter, KillAtAnyMomentLeavesOneOfTheTwoFilesWhole) {
   const std::string large = Saved();
   ASSERT_TRUE(saveSmall());
   const std::string small = Saved();
-  for (int round = 0; round < 40; round++) {
+  for (int round = 0; round < 40; ++round) {
     int ready[2];
     ASSERT_EQ(pipe(ready), 0);
     const pid_t child = fork();
@@ -421,7 +421,7 @@ TEST_F(SettingsWriter, KillAtAnyMomentLeavesOneOfTheTwoFilesWhole) {
     }
     char byte;
     ASSERT_EQ(read(ready[0], &byte, 1), 1);  // one save is done, the next begins
-    for (int i = 0; i < round * 10; i++) sched_yield();
+    for (int i = 0; i < round * 10; ++i) sched_yield();
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     close(ready[0]);
@@ -438,12 +438,12 @@ TEST_F(SettingsWriter, TwoProcessesThatSaveAtOnceDoNotMixTheirFiles) {
   const pid_t child = fork();
   if (child == 0) {
     Options::Left = Westring::Replicate(L'x', 4000);
-    for (int i = 0; i < 60; i++)
+    for (int i = 0; i < 60; ++i)
       if (!SaveSettings()) _exit(1);
     _exit(0);
   }
   bool whole = true;
-  for (int i = 0; i < 60; i++) {
+  for (int i = 0; i < 60; ++i) {
     EXPECT_TRUE(SaveSettings());
     const std::string text = Saved();
     whole =

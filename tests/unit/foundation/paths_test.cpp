@@ -66,7 +66,7 @@ TEST(NormalisePath, RefusesAnEmptyOrTooLongPathAndLeavesTheResult) {
 
 TEST(NormalisePath, OnlyTheLengthWhenDoneCounts) {
   std::string winding = "/a";
-  for (int i = 0; i < 50000; i++) winding += "/b/..";
+  for (int i = 0; i < 50000; ++i) winding += "/b/..";
   EXPECT_EQ(Normal(winding.c_str()), "/a");
 }
 
@@ -114,7 +114,7 @@ TEST(ShortenPath, TooNarrowForHeadAndDotsIsCutToo) {
 
 TEST(ShortenPath, ResultNeverPassesTheWidth) {
   for (const char* path : {"/home/user/projects/file", "//host/share/dir/file", "plain-name-without-slash"})
-    for (int width = 1; width < 30; width++) {
+    for (int width = 1; width < 30; ++width) {
       const int expected = std::min(width, static_cast<int>(std::string(path).size()));
       EXPECT_EQ(static_cast<int>(Short(path, width).size()), expected) << path << " in " << width;
     }

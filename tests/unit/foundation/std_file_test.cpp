@@ -51,7 +51,7 @@ class StdFileTest : public testing::Test {
 
 std::string Numbers(int bytes) {
   std::string text;
-  for (int i = 0; static_cast<int>(text.size()) < bytes; i++) text += std::to_string(i) + "\n";
+  for (int i = 0; static_cast<int>(text.size()) < bytes; ++i) text += std::to_string(i) + "\n";
   text.resize(static_cast<size_t>(bytes));
   return text;
 }
@@ -284,7 +284,7 @@ TEST_F(StdFileTest, ReadLineWithNoRoomWritesNothingOutside) {
 TEST_F(StdFileTest, ReadLineAgreesWithReadingByteByByte) {
   std::mt19937 random(3);
   std::string content;
-  for (int i = 0; i < 30000; i++) {
+  for (int i = 0; i < 30000; ++i) {
     const auto kind = random() % 300;
     content += kind == 0 ? '\n' : kind == 1 ? '\r' : kind == 2 ? '\0' : static_cast<char>('a' + kind % 26);
   }
@@ -370,7 +370,7 @@ TEST_F(StdFileTest, MixedCallsAgreeWithAPlainString) {
   ASSERT_EQ(Open("f", kBoth | kOpenCreate), 0);
   std::string model;
   size_t at = 0;
-  for (int i = 0; i < 4000; i++) {
+  for (int i = 0; i < 4000; ++i) {
     const size_t n = random() % 3 == 0 ? random() % 9000 : random() % 50;
     switch (random() % 4) {
       case 0: {

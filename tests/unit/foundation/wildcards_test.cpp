@@ -29,7 +29,7 @@ void ExpectNoMatch(const char* pattern, const char* name) {
 
 std::string Repeated(const char* text, int times) {
   std::string result;
-  for (int i = 0; i < times; i++) result += text;
+  for (int i = 0; i < times; ++i) result += text;
   return result;
 }
 
@@ -44,7 +44,7 @@ std::string Renamed(const char* source, const char* mask) {
 bool Tried(const char* p, const char* n) {
   if (!*p) return !*n;
   if (*p == '*') {
-    for (const char* rest = n;; rest++) {
+    for (const char* rest = n;; ++rest) {
       if (Tried(p + 1, rest)) return true;
       if (!*rest) return false;
     }
@@ -55,7 +55,7 @@ bool Tried(const char* p, const char* n) {
       const char* end = a + strcspn(a, ",}");
       const auto length = static_cast<size_t>(end - a);
       bool same = strlen(n) >= length;
-      for (size_t i = 0; same && i < length; i++) same = a[i] == '?' || a[i] == n[i];
+      for (size_t i = 0; same && i < length; ++i) same = a[i] == '?' || a[i] == n[i];
       if (same && Tried(close + 1, n + length)) return true;
       if (*end == '}') break;
       a = end + 1;
@@ -245,7 +245,7 @@ TEST(WildMatch, AgreesWithTryingEverything) {
   const char patternLetters[] = "ab?*{},";
   const char nameLetters[] = "ab{},";
   int matches = 0;
-  for (int i = 0; i < 60000; i++) {
+  for (int i = 0; i < 60000; ++i) {
     std::string pattern, name;
     for (auto n = random() % 10; n > 0; n--) pattern += patternLetters[random() % 7];
     for (auto n = random() % 7; n > 0; n--) name += nameLetters[random() % 5];
@@ -294,7 +294,7 @@ bool DiffersOnPurpose(const std::string& pattern) {
   if (open != std::string::npos && star < pattern.find('}', open)) return true;
   const auto set = pattern.find('[');
   if (set == std::string::npos) return false;
-  for (size_t i = set + 2; i + 3 < pattern.size() && pattern[i] != ']'; i++)
+  for (size_t i = set + 2; i + 3 < pattern.size() && pattern[i] != ']'; ++i)
     if (pattern[i] == '-' && pattern[i + 2] == '-' && pattern[i + 3] != ']') return true;
   return false;
 }
