@@ -15,6 +15,19 @@ void SwapCopies(Collection& a, Collection& b) {
   b = kept;
 }
 
+void LoadNames(FnStringCollection& target, const FnStringCollection& source) {
+  target.Clear();
+  for (int64_t i = 0; i < source.Count(); ++i) target.Load(*source.Peek(i));
+}
+
+// The names have no order yet, and need none to change sides.
+void SwapNames(FnStringCollection& a, FnStringCollection& b) {
+  FnStringCollection kept;
+  LoadNames(kept, a);
+  LoadNames(a, b);
+  LoadNames(b, kept);
+}
+
 void SwapPaths(TPanel& a, TPanel& b) {
   std::swap(a.path, b.path);
   std::swap(a.lastPath, b.lastPath);
@@ -36,7 +49,7 @@ void SwapListings(TPanel& a, TPanel& b) {
   std::swap(a.readError, b.readError);
   std::swap(a.archive, b.archive);
   SwapCopies(a.positions, b.positions);
-  SwapCopies(a.subdirectories, b.subdirectories);
+  SwapNames(a.subdirectories, b.subdirectories);
   SwapCopies(a.linkTargets, b.linkTargets);
 }
 

@@ -56,6 +56,8 @@ struct TPanel {
   std::unique_ptr<ArchiveLevel> archive;
   int32_t nameScroll = 0, nameScrollEntry = -1;
   int32_t infoListRow = 0;
+  // Of all real subdirectories met by the last read, shown or not. Only loaded:
+  // whoever looks one up calls FinishLoad first, and reads pay for no order.
   FnStringCollection subdirectories;
   CLinkTargetCache linkTargets;
 

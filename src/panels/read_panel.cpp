@@ -116,7 +116,6 @@ class Intake {
 
   // To be called once when the source has no more.
   void Finish() {
-    panel.subdirectories.FinishLoad();
     if (atRoot || hasDotDot) return;
     entry* const up = NewEntry(L"..");
     up->attributes = kAttrDirectory;

@@ -94,6 +94,7 @@ TEST_F(ReadPanelTest, AllRealSubdirectoriesAreKnownShownOrNot) {
   ASSERT_EQ(symlink("a", scratch.Path("link").c_str()), 0);
   Options::Hidden = false;
   Read();
+  Left().subdirectories.FinishLoad();
   ASSERT_EQ(Left().subdirectories.Count(), 2);
   EXPECT_STREQ(Left().subdirectories.Peek(0)->Text(), L".b");
   EXPECT_STREQ(Left().subdirectories.Peek(1)->Text(), L"a");
