@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int kMeasuredGlyph = 65;  // of the font, by its number
-constexpr size_t kMostOddLayouts = 1024;
+constexpr size_t kMostOddGlyphs = 1024;
 
 // No ligatures, no kerning, no forms that depend on the neighbours.
 constexpr const char* kPlainFeatures = "liga=0, clig=0, dlig=0, hlig=0, calt=0, kern=0";
@@ -27,6 +27,8 @@ bool StandsAlone(int32_t character) {
   const auto script = g_unichar_get_script(code);
   return std::find(std::begin(kSimpleScripts), std::end(kSimpleScripts), script) != std::end(kSimpleScripts);
 }
+
+constexpr int32_t kVerticalLine = 0x2502;
 
 bool IsLineDrawing(int32_t character) { return character >= 0x2500 && character <= 0x259F; }
 
@@ -71,7 +73,7 @@ LayoutPtr MakeLayout(PangoContext* context) {
 void CellPainter::SetFont(Gtk::Widget& widget, const Estring& family, int points) {
   fits.clear();
   fits.resize(kPages);
-  oddLayouts.clear();
+  oddGlyphs.clear();
   context.reset(gtk_widget_create_pango_context(widget.gobj()));
   PangoFontDescription* font = pango_font_description_new();
   // A family that is not there is better replaced by one of a single width.
@@ -84,6 +86,7 @@ void CellPainter::SetFont(Gtk::Widget& widget, const Estring& family, int points
   layout = MakeLayout(context.get());
   MeasureCell();
   MeasureAdvance();
+  MeasureLines();
 }
 
 void CellPainter::MeasureCell() {
@@ -111,6 +114,17 @@ void CellPainter::MeasureAdvance() {
   if (advance != cell) {
     AddAttribute(spacedShaping.get(), pango_attr_letter_spacing_new(cell - advance), 0, G_MAXINT);
   }
+}
+
+// Frames must join from row to row.
+void CellPainter::MeasureLines() {
+  const std::string line = ToBytes(kVerticalLine);
+  Shape(line.data(), static_cast<int>(line.size()), plainShaping.get());
+  PangoRectangle ink{};
+  pango_layout_line_get_pixel_extents(pango_layout_get_line_readonly(layout.get(), 0), &ink, nullptr);
+  lineTop = ink.y;
+  lineHeight = std::max(ink.height, 1);
+  stretchesLines = lineTop > -baseline || lineTop + lineHeight < cellHeight - baseline;
 }
 
 PangoLayoutRun* CellPainter::Shape(const char* utf8, int bytes, PangoAttrList* attributes) {
@@ -142,6 +156,11 @@ CellPainter::Fit CellPainter::ProbeFit(int32_t character) {
                        run->item->analysis.level % 2 == 0 && run->glyphs->num_glyphs == 1 &&
                        run->glyphs->glyphs[0].geometry.width == advance && StandsAlone(character);
   return regular ? Fit::Regular : Fit::Odd;
+}
+
+bool CellPainter::IsRegular(int32_t character) {
+  if (stretchesLines && IsLineDrawing(character)) return false;
+  return FitOf(character) == Fit::Regular;
 }
 
 // ---- drawing -----------------------------------------------------------------
@@ -211,36 +230,45 @@ bool CellPainter::IsAligned(int cells) const {
   return glyphs == cells;
 }
 
-// Wider characters are squeezed, so that all of them can be seen, and lines are
-// drawn across the whole cell, so that they join.
 void CellPainter::DrawAlone(cairo_t* cairo, const Cell& cell, int x, int y) {
   if (cell.character == ' ') return;
-  PangoLayoutLine* line = pango_layout_get_line_readonly(LayoutOfOdd(cell.character), 0);
-  PangoRectangle extents{};
-  pango_layout_line_get_pixel_extents(line, nullptr, &extents);
+  const OddGlyph& odd = GlyphOfOdd(cell.character);
   cairo_save(cairo);
-  cairo_rectangle(cairo, x, y, cellWidth, cellHeight);
-  cairo_clip(cairo);
-  cairo_translate(cairo, x, y + baseline);
-  if (extents.width > cellWidth || (IsLineDrawing(cell.character) && extents.width > 0)) {
-    cairo_scale(cairo, static_cast<double>(cellWidth) / extents.width, 1);
+  if (odd.overhangs) {
+    cairo_rectangle(cairo, x, y, cellWidth, cellHeight);
+    cairo_clip(cairo);
   }
+  cairo_translate(cairo, x, y + odd.baseline);
+  cairo_scale(cairo, odd.scaleX, odd.scaleY);
   SetColour(cairo, Foreground(cell.attribute));
   cairo_move_to(cairo, 0, 0);
-  pango_cairo_show_layout_line(cairo, line);
+  pango_cairo_show_layout_line(cairo, pango_layout_get_line_readonly(odd.layout.get(), 0));
   cairo_restore(cairo);
 }
 
-PangoLayout* CellPainter::LayoutOfOdd(int32_t character) {
-  if (oddLayouts.size() >= kMostOddLayouts) oddLayouts.clear();
-  LayoutPtr& odd = oddLayouts[character];
-  if (odd == nullptr) {
-    const std::string utf8 = ToBytes(character);
-    odd = MakeLayout(context.get());
-    pango_layout_set_attributes(odd.get(), plainShaping.get());
-    pango_layout_set_text(odd.get(), utf8.data(), static_cast<int>(utf8.size()));
+// Wider characters are squeezed, so that all of them can be seen, and lines are
+// drawn over the whole cell, so that they join.
+const CellPainter::OddGlyph& CellPainter::GlyphOfOdd(int32_t character) {
+  if (oddGlyphs.size() >= kMostOddGlyphs) oddGlyphs.clear();
+  OddGlyph& odd = oddGlyphs[character];
+  if (odd.layout != nullptr) return odd;
+  const std::string utf8 = ToBytes(character);
+  odd.layout = MakeLayout(context.get());
+  pango_layout_set_attributes(odd.layout.get(), plainShaping.get());
+  pango_layout_set_text(odd.layout.get(), utf8.data(), static_cast<int>(utf8.size()));
+  odd.baseline = baseline;
+  PangoRectangle ink{}, logical{};
+  pango_layout_get_pixel_extents(odd.layout.get(), &ink, &logical);
+  const bool isLine = IsLineDrawing(character);
+  if (logical.width > cellWidth || (isLine && logical.width > 0)) {
+    odd.scaleX = static_cast<double>(cellWidth) / logical.width;
   }
-  return odd.get();
+  if (isLine && stretchesLines) {
+    odd.scaleY = static_cast<double>(cellHeight) / lineHeight;
+    odd.baseline = -lineTop * odd.scaleY;
+  }
+  odd.overhangs = ink.x < 0 || (ink.x + ink.width) * odd.scaleX > cellWidth;
+  return odd;
 }
 
 void CellPainter::DrawCursor(cairo_t* cairo, int x, int y, int percent, uint8_t attribute) const {

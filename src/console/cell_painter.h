@@ -45,14 +45,22 @@ class CellPainter {
     Odd,      // from another font, of another width, joined or right to left
     Missing,  // no font has it
   };
+  // A character made to fit into its cell.
+  struct OddGlyph {
+    LayoutPtr layout;
+    double scaleX = 1, scaleY = 1;
+    double baseline = 0;     // pixels below the cell's top
+    bool overhangs = false;  // its picture leaves the cell to a side
+  };
   static constexpr int kPageSize = 256, kPages = 0x110000 / kPageSize;
   using FitPage = std::array<Fit, kPageSize>;
 
   void MeasureCell();
   void MeasureAdvance();
+  void MeasureLines();
   Fit FitOf(int32_t character);
   Fit ProbeFit(int32_t character);
-  bool IsRegular(int32_t character) { return FitOf(character) == Fit::Regular; }
+  bool IsRegular(int32_t character);
   int32_t Drawable(int32_t character);
 
   // Lays text out on the common layout; its one run, or null if there are more.
@@ -63,7 +71,7 @@ class CellPainter {
   void DrawStretch(cairo_t* cairo, const Stretch& stretch, int x, int y);
   void DrawAlone(cairo_t* cairo, const Cell& cell, int x, int y);
   bool IsAligned(int cells) const;
-  PangoLayout* LayoutOfOdd(int32_t character);
+  const OddGlyph& GlyphOfOdd(int32_t character);
 
   std::unique_ptr<PangoContext, ObjectRelease> context;
   LayoutPtr layout;  // of the text in work
@@ -73,9 +81,11 @@ class CellPainter {
   int cellWidth = 0, cellHeight = 0;
   int baseline = 0;  // pixels below the cell's top
   int advance = 0;   // of a regular glyph, in Pango units
+  bool stretchesLines = false;  // the font's vertical line is shorter than a cell
+  int lineTop = 0, lineHeight = 1;  // of that line, in pixels from the baseline
 
   std::vector<std::unique_ptr<FitPage>> fits;  // by character / kPageSize
-  std::unordered_map<int32_t, LayoutPtr> oddLayouts;
+  std::unordered_map<int32_t, OddGlyph> oddGlyphs;
 
   std::vector<Cell> shown;  // the row in work
   std::vector<Stretch> stretches;
