@@ -1,7 +1,7 @@
 // Evaluation of filter expressions in one pass from left to right:
 //   expression = term { "|" term }
 //   term = factor { "&" factor }
-//   factor = "!" factor | "(" expression ")" | test | pattern
+//   factor = "!" factor | "(" expression ")" | criterion | pattern
 // Every factor leaves one value on the stack; nothing is cut short.
 #include "panels/expression.h"
 
@@ -11,7 +11,7 @@
 #include <memory>
 
 #include "foundation/wildcards.h"
-#include "panels/attribute_test.h"
+#include "panels/criterion.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ class Evaluator {
     if (Take(L'('))
       Bracket();
     else if (*p == L'%')
-      Push(TestAttribute(p, e, error));
+      Push(TestCriterion(p, e, error));
     else
       Pattern();
     if (negated) Push(!Pop());

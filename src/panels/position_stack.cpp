@@ -5,17 +5,16 @@
 
 #include <climits>
 #include <cwchar>
-#include <memory>
 
 namespace {
 
 // Both collections are in order already, so each copy goes to the end.
-template <class Collection>
+template <class Item, class Collection>
 void CopyItems(Collection& target, const Collection& source) {
   if (&target == &source) return;
   target.Clear();
   for (int64_t i = 0; i < source.Count(); ++i) {
-    target.Insert(new std::remove_pointer_t<decltype(source.Peek(i))>(*source.Peek(i)));
+    target.Insert(new Item(*source.Peek(i)));
   }
 }
 
@@ -30,7 +29,7 @@ Westring ReadLink(const Westring& path) {
 }  // namespace
 
 CPosStack& CPosStack::operator=(const CPosStack& other) {
-  CopyItems(*this, other);
+  CopyItems<TPanelPosition>(*this, other);
   return *this;
 }
 
@@ -49,7 +48,7 @@ int CPosStack::CompareKeys(const Westring* a, const Westring* b) const {
 }
 
 CLinkTargetCache& CLinkTargetCache::operator=(const CLinkTargetCache& other) {
-  CopyItems(*this, other);
+  CopyItems<TLinkTargetCacheEntry>(*this, other);
   return *this;
 }
 

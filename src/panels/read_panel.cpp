@@ -141,7 +141,7 @@ class Intake {
       return AddFirst(panel, e);
     }
     e->sortGroup = GroupOf(*e);
-    if (changesCase) e->IsDirectory() ? FoldInPlace(e->name) : LowerInPlace(e->name);
+    if (changesCase) (e->IsDirectory() ? FoldInPlace : LowerInPlace)(e->name);
     AddLast(panel, e);
   }
 

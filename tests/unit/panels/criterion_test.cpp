@@ -1,4 +1,4 @@
-// The tests of filter expressions that begin with "%".
+// The criteria of filter expressions, through the expressions.
 #include <grp.h>
 #include <gtest/gtest.h>
 #include <pwd.h>
@@ -19,10 +19,10 @@ namespace {
 constexpr gid_t kMembersGroup = 54322;
 [[maybe_unused]] const int groupsMade = setgroups(1, &kMembersGroup);
 
-class AttributeTest : public testing::Test {
+class Criterion : public testing::Test {
  protected:
-  AttributeTest() { SetZone("UTC"); }
-  ~AttributeTest() override {
+  Criterion() { SetZone("UTC"); }
+  ~Criterion() override {
     FreeEntry(e);
     DateOrder = kDateMonthFirst;
     DateSeparator = '/';
@@ -58,7 +58,7 @@ class AttributeTest : public testing::Test {
   entry* e = NewEntry(L"test");
 };
 
-TEST_F(AttributeTest, SizesHaveUnitsOfBinaryThousands) {
+TEST_F(Criterion, SizesHaveUnitsOfBinaryThousands) {
   e->size = 100 * 1024;
   EXPECT_TRUE(Holds(L"%size=100k"));
   EXPECT_TRUE(Holds(L"%size=100K"));
@@ -69,7 +69,7 @@ TEST_F(AttributeTest, SizesHaveUnitsOfBinaryThousands) {
   EXPECT_TRUE(Holds(L"%size=5g"));
 }
 
-TEST_F(AttributeTest, OnlyTheLastCharacterIsAUnit) {
+TEST_F(Criterion, OnlyTheLastCharacterIsAUnit) {
   e->size = 11;
   EXPECT_TRUE(Holds(L"%size>10x"));
   EXPECT_FALSE(Holds(L"%size>11x"));
@@ -77,13 +77,13 @@ TEST_F(AttributeTest, OnlyTheLastCharacterIsAUnit) {
   EXPECT_TRUE(Holds(L"%size=11t"));
 }
 
-TEST_F(AttributeTest, HugeNumbersStayHuge) {
+TEST_F(Criterion, HugeNumbersStayHuge) {
   e->size = int64_t{1} << 50;
   EXPECT_TRUE(Holds(L"%size<9223372036854775807g"));
   EXPECT_TRUE(Holds(L"%size<99999999999999999999999999"));
 }
 
-TEST_F(AttributeTest, OperatorsCompareNumbers) {
+TEST_F(Criterion, OperatorsCompareNumbers) {
   e->size = 10;
   for (const wchar_t* text : {L"%size=10", L"%size==10", L"%size<=10", L"%size>=10", L"%size!=9", L"%size<11",
                               L"%size<=11", L"%size>9", L"%size>=9", L"%size => 10", L"%size=<10"}) {
@@ -95,7 +95,7 @@ TEST_F(AttributeTest, OperatorsCompareNumbers) {
   }
 }
 
-TEST_F(AttributeTest, OperatorsThatAreNoneAreErrors) {
+TEST_F(Criterion, OperatorsThatAreNoneAreErrors) {
   for (const wchar_t* text :
        {L"%size", L"%size ", L"%size>", L"%size 10", L"%size!10", L"%size~10", L"%size<>10", L"%size > & a",
         L"%", L"%=1", L"%sizes>1", L"%siz>1", L"%size10"}) {
@@ -103,26 +103,26 @@ TEST_F(AttributeTest, OperatorsThatAreNoneAreErrors) {
   }
 }
 
-TEST_F(AttributeTest, AnUnknownOperatorWithAnEqualSignHoldsOnEqualNumbers) {
+TEST_F(Criterion, AnUnknownOperatorWithAnEqualSignHoldsOnEqualNumbers) {
   e->size = 10;
   EXPECT_TRUE(Holds(L"%size~=10"));
   EXPECT_TRUE(IsError(L"%size~=11"));
 }
 
-TEST_F(AttributeTest, BlanksMayStandBetweenAllParts) {
+TEST_F(Criterion, BlanksMayStandBetweenAllParts) {
   e->size = 10;
   EXPECT_TRUE(Holds(L"  %size  >=  10  &  test "));
   EXPECT_TRUE(Holds(L"!%size > 10"));
   EXPECT_TRUE(Holds(L"( %SIZE>9 )&%Size<11"));
 }
 
-TEST_F(AttributeTest, TheSyntaxCheckComparesWithZeroes) {
+TEST_F(Criterion, TheSyntaxCheckComparesWithZeroes) {
   EXPECT_EQ(MatchName(L"%size>0", L"test"), 0);
   EXPECT_EQ(MatchName(L"%size=0", L"test"), 1);
   EXPECT_EQ(MatchName(L"%size>100k & %age<7d", L"test"), 0);
 }
 
-TEST_F(AttributeTest, AgesHaveUnitsOfTime) {
+TEST_F(Criterion, AgesHaveUnitsOfTime) {
   ModifiedBefore(3 * 86400);
   EXPECT_TRUE(Holds(L"%age<7d"));
   EXPECT_FALSE(Holds(L"%age<2D"));
@@ -134,12 +134,12 @@ TEST_F(AttributeTest, AgesHaveUnitsOfTime) {
   EXPECT_FALSE(Holds(L"%age>260000s"));
 }
 
-TEST_F(AttributeTest, AFileOfTheFutureHasANegativeAge) {
+TEST_F(Criterion, AFileOfTheFutureHasANegativeAge) {
   ModifiedBefore(-86400);
   EXPECT_TRUE(Holds(L"%age<0"));
 }
 
-TEST_F(AttributeTest, AttributesAreMaskedByTheLetters) {
+TEST_F(Criterion, AttributesAreMaskedByTheLetters) {
   e->attributes = kAttrDirectory | kAttrLink;
   EXPECT_TRUE(Holds(L"%attrib=d"));
   EXPECT_TRUE(Holds(L"%attrib=D"));
@@ -153,7 +153,7 @@ TEST_F(AttributeTest, AttributesAreMaskedByTheLetters) {
   EXPECT_FALSE(Holds(L"%attrib>0")) << "without letters both sides are zero";
 }
 
-TEST_F(AttributeTest, PermissionsAreThoseOfTheUsersClass) {
+TEST_F(Criterion, PermissionsAreThoseOfTheUsersClass) {
   const gid_t strange = 54321;
   e->uid = static_cast<uint16_t>(geteuid());
   e->gid = strange;
@@ -170,7 +170,7 @@ TEST_F(AttributeTest, PermissionsAreThoseOfTheUsersClass) {
   EXPECT_FALSE(Holds(L"%perm=w"));
 }
 
-TEST_F(AttributeTest, PermissionsOfAGroupAreForItsMembers) {
+TEST_F(Criterion, PermissionsOfAGroupAreForItsMembers) {
   e->uid = static_cast<uint16_t>(geteuid() + 1);
   e->mode = 0475;
   std::vector<gid_t> groups(64);
@@ -181,7 +181,7 @@ TEST_F(AttributeTest, PermissionsOfAGroupAreForItsMembers) {
   EXPECT_FALSE(Holds(L"%perm=w")) << "the owner's bits go before the group's";
 }
 
-TEST_F(AttributeTest, OwnersAndGroupsGoByTheirNames) {
+TEST_F(Criterion, OwnersAndGroupsGoByTheirNames) {
   const passwd* const user = getpwuid(0);
   const group* const root = getgrgid(0);
   if (!user || !root) GTEST_SKIP() << "no names for number 0";
@@ -192,14 +192,14 @@ TEST_F(AttributeTest, OwnersAndGroupsGoByTheirNames) {
   EXPECT_FALSE(Holds(L"%group=" + std::wstring(Westring(root->gr_name).Text())));
 }
 
-TEST_F(AttributeTest, AUserWhoDoesNotExistOwnsNothing) {
+TEST_F(Criterion, AUserWhoDoesNotExistOwnsNothing) {
   EXPECT_FALSE(Holds(L"%owner=nosuchuser"));
   EXPECT_FALSE(Holds(L"%group=nosuchgroup"));
   EXPECT_TRUE(Holds(L"%owner>nosuchuser")) << "0 is above -1";
   EXPECT_FALSE(Holds(L"%owner=nosuchuser | %owner=nosuchother"));
 }
 
-TEST_F(AttributeTest, DatesAreReadInTheOrderOfTheLocale) {
+TEST_F(Criterion, DatesAreReadInTheOrderOfTheLocale) {
   Modified(1999, 1, 2);
   EXPECT_TRUE(Holds(L"%date=1/2/99"));
   EXPECT_TRUE(Holds(L"%date>=1/2/99"));
@@ -210,7 +210,7 @@ TEST_F(AttributeTest, DatesAreReadInTheOrderOfTheLocale) {
   EXPECT_TRUE(Holds(L"%date=99/1/2"));
 }
 
-TEST_F(AttributeTest, DatesAreSplitAtTheSeparatorOfTheLocale) {
+TEST_F(Criterion, DatesAreSplitAtTheSeparatorOfTheLocale) {
   Modified(1999, 1, 2);
   DateSeparator = '.';
   DateOrder = kDateDayFirst;
@@ -221,7 +221,7 @@ TEST_F(AttributeTest, DatesAreSplitAtTheSeparatorOfTheLocale) {
   EXPECT_TRUE(Holds(L"%date=1999-01-02"));
 }
 
-TEST_F(AttributeTest, ShortYearsBelowSeventyOneAreOfThisCentury) {
+TEST_F(Criterion, ShortYearsBelowSeventyOneAreOfThisCentury) {
   Modified(2003, 1, 2);
   EXPECT_TRUE(Holds(L"%date=1/2/03"));
   EXPECT_TRUE(Holds(L"%date=1/2/2003"));
@@ -231,7 +231,7 @@ TEST_F(AttributeTest, ShortYearsBelowSeventyOneAreOfThisCentury) {
   EXPECT_TRUE(Holds(L"%date=1/2/71"));
 }
 
-TEST_F(AttributeTest, AllHoursOfADayAreThatDay) {
+TEST_F(Criterion, AllHoursOfADayAreThatDay) {
   for (const int hour : {0, 1, 12, 23}) {
     Modified(2024, 5, 17, hour, 59);
     EXPECT_TRUE(Holds(L"%date=5/17/2024")) << hour;
@@ -240,7 +240,7 @@ TEST_F(AttributeTest, AllHoursOfADayAreThatDay) {
   }
 }
 
-TEST_F(AttributeTest, DaysHoldInEveryZoneAndAcrossChangesOfClocks) {
+TEST_F(Criterion, DaysHoldInEveryZoneAndAcrossChangesOfClocks) {
   // The last one goes forward at midnight, so that day has none.
   for (const char* zone : {"UTC", "CET-1CEST,M3.5.0,M10.5.0/3", "PST8PDT,M3.2.0,M11.1.0", "<+14>-14",
                            "<-12>12", "<-03>3<-02>,M10.3.0/0,M2.3.0/0"}) {
@@ -257,7 +257,7 @@ TEST_F(AttributeTest, DaysHoldInEveryZoneAndAcrossChangesOfClocks) {
   }
 }
 
-TEST_F(AttributeTest, DatesOfAnyShapeAreNumbersOfSomeKind) {
+TEST_F(Criterion, DatesOfAnyShapeAreNumbersOfSomeKind) {
   for (const wchar_t* text : {L"%date=1", L"%date=1/2", L"%date=//", L"%date=x", L"%date=1/2/3/4/5",
                               L"%date=99999999999999999999/1/1", L"%date=1/2/99999999999999999999"}) {
     EXPECT_FALSE(IsError(text)) << std::string(text, text + wcslen(text));

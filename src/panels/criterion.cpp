@@ -1,5 +1,5 @@
-// The "%" tests of filter expressions: keyword, operator, value.
-#include "panels/attribute_test.h"
+// The criteria of filter expressions: keyword, operator, value.
+#include "panels/criterion.h"
 
 #include <grp.h>
 #include <pwd.h>
@@ -182,13 +182,13 @@ int64_t PermissionsOf(const entry& e, int64_t mask) {
   return e.mode & 7 & mask;
 }
 
-struct TestRow {
+struct CriterionRow {
   const wchar_t* keyword;
   int64_t (*right)(const Westring& value);
   int64_t (*left)(const entry& e, int64_t right);
 };
 
-constexpr TestRow kTests[] = {
+constexpr CriterionRow kCriteria[] = {
     {L"size", SizeValue, SizeOf},
     {L"date", DateValue, DayOf},
     {L"age", AgeValue, AgeOf},
@@ -209,11 +209,11 @@ void SkipBlanks(const wchar_t*& p) {
   while (IsBlank(*p)) ++p;
 }
 
-const TestRow* ReadKeyword(const wchar_t*& p) {
+const CriterionRow* ReadKeyword(const wchar_t*& p) {
   const wchar_t* const start = ++p;  // behind the "%"
   while (IsLetter(*p)) ++p;
   const Westring keyword(start, static_cast<int>(p - start));
-  for (const TestRow& row : kTests) {
+  for (const CriterionRow& row : kCriteria) {
     if (keyword == row.keyword) return &row;
   }
   return nullptr;
@@ -254,8 +254,8 @@ bool CompareBy(const Operator& op, int64_t left, int64_t right, bool& error) {
 
 }  // namespace
 
-bool TestAttribute(const wchar_t*& p, const entry& e, bool& error) {
-  const TestRow* const row = ReadKeyword(p);
+bool TestCriterion(const wchar_t*& p, const entry& e, bool& error) {
+  const CriterionRow* const row = ReadKeyword(p);
   const Operator op = ReadOperator(p);
   const Westring value = ReadValue(p);
   if (!row || value.IsEmpty()) {

@@ -1,9 +1,0 @@
-// The "%" tests of filter expressions: a number of the entry compared with one
-// that is written.
-#pragma once
-
-#include "panels/entry.h"
-
-// Evaluates the test at p, its "%", and moves p behind it. Sets error, and never
-// clears it, for a keyword, an operator or a value that can't be read.
-bool TestAttribute(const wchar_t*& p, const entry& e, bool& error);
