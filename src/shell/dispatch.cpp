@@ -17,8 +17,6 @@ bool PlainStarKey(Shell& shell) {
   return false;
 }
 
-// ---- stored directories ----------------------------------------------------
-
 struct DigitRow {
   Key zero;  // the code of digit 0; the others follow
   int (*run)(Shell&, int digit);
@@ -43,16 +41,12 @@ bool PanelKey(Shell& shell) {
   return false;
 }
 
-// ---- sorting of the active side --------------------------------------------
-
 bool SortKey(Shell& shell) {
   if (shell.key < CtrlFKey(3) || shell.key > CtrlFKey(8)) return false;
   const Key first = ActiveSide == 0 ? kMenuLeftName : kMenuRightName;
   shell.key = first + (shell.key - CtrlFKey(3));
   return false;  // now a menu command
 }
-
-// ---- text ------------------------------------------------------------------
 
 // Extended keys have one of these bits.
 constexpr Key kExtendedBits = 0x130000;
@@ -63,8 +57,6 @@ bool TextKey(Shell& shell) {
   shell.redrawLevel = TypeCharacter(shell);
   return true;
 }
-
-// ---- commands --------------------------------------------------------------
 
 // These leave the panel cursor where it is, so it need not be painted anew.
 constexpr Key kCursorStays[] = {CtrlLetter('h'), kDelete,         kAltLeft,        kAltRight,    kCtrlLeft,

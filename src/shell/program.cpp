@@ -1,5 +1,5 @@
-// The whole life of the program: start-up in its order, the loop of painting,
-// reading a key and acting, and the orderly exit.
+// The whole life of the program: start-up in its order, the main loop, and the
+// orderly exit.
 #include "shell/program.h"
 
 #include <cstdio>
@@ -18,21 +18,11 @@
 #include "panels/read_panel.h"
 #include "shell/arguments.h"
 #include "shell/clock.h"
-#include "shell/command_line.h"
-#include "shell/dispatch.h"
 #include "shell/exit_script.h"
-#include "shell/key_bar.h"
+#include "shell/main_loop.h"
 #include "shell/screen.h"
-#include "shell/shell.h"
 
 namespace {
-
-constexpr int kLineCursorSize = 15;
-constexpr int kTitleWidth = 50;
-
-uint32_t DrawnModifiers = 0;  // for which the function-key bar was painted
-
-// ---- start -----------------------------------------------------------------
 
 void ResetInput() {
   BreakState = 0;
@@ -66,7 +56,7 @@ void ChooseStartDirectory(int side, const Westring& argument) {
   CopyText(panel.path, current.Text());
   const Westring& option = side == 0 ? Options::Left : Options::Right;
   const Westring& start = !argument.IsEmpty() ? argument : !option.IsEmpty() ? option : current;
-  if (ChangeDirectory(panel, start)) return;
+  if (start.IsEmpty() || ChangeDirectory(panel, start)) return;
   // The panel stays where it is; the console text behind the panels tells why.
   Console->WriteText(ToUtf8(Westring(L"Invalid directory: ") + start + L"\n").Text());
 }
@@ -99,66 +89,6 @@ void OpenPanels(const Arguments& arguments) {
   SetAppTitle(nullptr);
   ActivateSide(static_cast<int>(ActiveSide));
 }
-
-// ---- the loop --------------------------------------------------------------
-
-void ChooseActiveSide(Shell& shell) {
-  shell.bothHidden = !Panels[0].visible && !Panels[1].visible;
-  if (!shell.bothHidden && !ActivePanel().visible) {
-    ActivateSide(static_cast<int>(ActiveSide ^ 1));
-    shell.cursorDirty = true;
-  } else if (shell.redrawLevel != kRedrawNothing) {
-    ActivateSide(static_cast<int>(ActiveSide));
-  }
-}
-
-void PaintCursorBar(Shell& shell) {
-  TPanel& panel = ActivePanel();
-  shell.currentIndex = panel.CurrentIndex();
-  shell.currentEntry = panel.Current();
-  if (panel.nameScrollEntry != shell.currentIndex) panel.nameScroll = 0;
-  if (!shell.cursorDirty) return;
-  DrawCursor(static_cast<int>(ActiveSide), true);
-  DrawStatusLine(OtherPanel());
-  shell.cursorDirty = false;
-}
-
-void PaintLines(Shell& shell) {
-  if (CurrentModifiers != DrawnModifiers) shell.redrawLevel = kRedrawAll;
-  if (shell.redrawLevel == kRedrawNothing) return;
-  PaintCommandLine(shell);
-  if (shell.redrawLevel < kRedrawAll) return;
-  PaintKeyBar(BarLabels(CurrentModifiers));
-  DrawnModifiers = CurrentModifiers;
-  SetAppTitle(ShortenPath(ActivePanel().path, kTitleWidth).Text());
-}
-
-void ReadNextKey(Shell& shell) {
-  TPanel& panel = ActivePanel();
-  panel.lastTop = panel.topIndex;
-  panel.lastCursor = panel.cursorRow;
-  PlaceCommandCursor(shell);
-  if (shell.keyPending) return;
-  Console->SetCursorSize(kLineCursorSize);
-  bool timedOut = false;
-  shell.key = ReadKey(timedOut, &shell.mouse, -1);
-  Console->SetCursorSize(0);
-}
-
-void RunLoop(Shell& shell) {
-  while (!shell.quit) {
-    if (ShowPanels(true)) shell.cursorDirty = true;
-    ShowClock();
-    ChooseActiveSide(shell);
-    PaintCursorBar(shell);
-    PaintLines(shell);
-    ReadNextKey(shell);
-    shell.keyPending = false;
-    DispatchKey(shell);
-  }
-}
-
-// ---- the exit --------------------------------------------------------------
 
 void ClosePanels(const Arguments& arguments) {
   if (Options::AutoSave) SaveSettings();
@@ -201,7 +131,7 @@ int RunWithConsole(int argc, char** argv) {
   OpenPanels(arguments);
   Shell shell;
   IdleHook = UpdateClock;
-  RunLoop(shell);
+  RunMainLoop(shell);
   IdleHook = nullptr;
   ClosePanels(arguments);
   return 0;
