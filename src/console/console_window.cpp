@@ -98,6 +98,7 @@ void CConsoleWindow::Layout(int columns, int rows, int points) {
   area.SetPicture(width, height);
   area.queue_draw();  // the window may keep its size and still show the old screen
   resize(width, height);
+  check_resize();  // now: whoever sees what is done next sees the new size too
 }
 
 // ---- drawing -----------------------------------------------------------------

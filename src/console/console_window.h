@@ -63,7 +63,9 @@ class CConsoleWindow : public Gtk::Window {
   void Scroll(const CellRect& block, int lines, uint8_t attribute);
   void SetSelectableRegion(const CellRect& region);
 
-  // The screen, for CConsole.
+  // The screen, for CConsole. The application alone writes it, but for the
+  // selection, which is changed and read under the lock; the cells have none,
+  // for a change that drawing sees half done is drawn again.
   CellGrid grid;
   UpdateBatch batch;
   Selection selection;
@@ -106,7 +108,6 @@ class CConsoleWindow : public Gtk::Window {
   static void OnCommit(GtkIMContext* context, const gchar* utf8, gpointer window);
   void QueueKey(Key code, uint32_t modifiers, uint32_t hardware);
   void QueueMouse(EventType type, int code, uint32_t modifiers, double x, double y);
-  void CopySelection();
 
   CConsoleDrawingArea area;
   CellPainter painter;

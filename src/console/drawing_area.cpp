@@ -44,10 +44,17 @@ void CConsoleDrawingArea::CopyPicture(int fromX, int fromY, int toX, int toY, in
   cairo_surface_mark_dirty(surface);
 }
 
+// Rectangle by rectangle: a step of the cursor changes a few rows far apart,
+// and what lies between them is most of the window.
 bool CConsoleDrawingArea::on_expose_event(GdkEventExpose* event) {
   cairo_surface_flush(cairo_get_target(Picture()));
-  const GdkRectangle& place = event->area;
-  gdk_draw_drawable(event->window, copier.get(), GDK_DRAWABLE(picture.get()), place.x, place.y, place.x,
-                    place.y, place.width, place.height);
+  GdkRectangle* places = nullptr;
+  gint count = 0;
+  gdk_region_get_rectangles(event->region, &places, &count);
+  for (const GdkRectangle* place = places; place < places + count; ++place) {
+    gdk_draw_drawable(event->window, copier.get(), GDK_DRAWABLE(picture.get()), place->x, place->y, place->x,
+                      place->y, place->width, place->height);
+  }
+  g_free(places);
   return true;
 }

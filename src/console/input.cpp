@@ -8,14 +8,23 @@
 
 int BreakState = 0;
 
-// Also called from the GUI thread, by the Break key.
+namespace {
+
+// The Break key is handled in the GUI thread.
+std::atomic_ref<int> SharedBreakState() { return std::atomic_ref(BreakState); }
+
+}  // namespace
+
 void RequestBreak() {
   int armed = 1;
-  std::atomic_ref(BreakState).compare_exchange_strong(armed, 2);
+  SharedBreakState().compare_exchange_strong(armed, 2);
 }
 
+BreakScope::BreakScope() : saved(SharedBreakState().exchange(1)) {}
+BreakScope::~BreakScope() { SharedBreakState() = saved; }
+
 bool BreakScope::Stopped() {
-  if (std::atomic_ref(BreakState).load() == 2) return true;
+  if (SharedBreakState() == 2) return true;
   return Console != nullptr && Console->Events().TakeEscape();
 }
 

@@ -34,8 +34,8 @@ void RequestBreak();  // 1 becomes 2
 
 class BreakScope {
  public:
-  BreakScope() : saved(BreakState) { BreakState = 1; }
-  ~BreakScope() { BreakState = saved; }
+  BreakScope();
+  ~BreakScope();
   BreakScope(const BreakScope&) = delete;
   BreakScope& operator=(const BreakScope&) = delete;
   // True once Break was pressed or Escape is among the waiting keys. Costs no

@@ -9,7 +9,7 @@ struct Toolkit::Main {
 };
 
 Toolkit::Toolkit(int& argc, char**& argv) {
-// Older versions of the thread library needed it, newer ones ignore it.
+  // Older versions of the thread library needed it, newer ones ignore it.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
   g_thread_init(nullptr);
