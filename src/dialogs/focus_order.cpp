@@ -18,8 +18,6 @@ int NextInGroup(std::span<const FocusPlace> places, int from, int step) {
 }
 
 int NextGroup(std::span<const FocusPlace> places, int from, int step) {
-  const int next = StepAround(places, from, step, false);
-  if (next == from) return from;
-  const int first = places[next].group;
+  const int first = places[StepAround(places, from, step, false)].group;
   return places[first].tabToFirst ? first : places[first].groupCurrent;
 }

@@ -18,7 +18,7 @@ struct FocusPlace {
 // 1 or -1; from if there is none.
 int NextInGroup(std::span<const FocusPlace> places, int from, int step);
 
-// Where Tab leads to: the next group that has a place for the focus, and there
-// to its first member or the one that had the focus last. That one may be a
-// place that takes no focus. from if there is no other group.
+// Where Tab leads to: the next group that has a place for the focus, or its own
+// without another, and there to the first member or the one that had the focus
+// last. That one may be a place that takes no focus.
 int NextGroup(std::span<const FocusPlace> places, int from, int step);

@@ -60,6 +60,26 @@ TEST_F(DialogTest, TabGoesOnItsWayFromTheFirstOfAGroupIfThatTakesNoFocus) {
   dialog->Run();
 }
 
+TEST_F(DialogTest, TabInTheOnlyGroupGoesToTheFirstOfItIfThatWasStarted) {
+  AddProbe(true);
+  AddProbe(false);
+  Keys("Down Tab");
+  Then([&] { EXPECT_EQ(dialog->Focus(), 0); });
+  Keys("Down Shift-Tab");
+  Then([&] { EXPECT_EQ(dialog->Focus(), 0); });
+  Keys("Esc");
+  dialog->Run();
+}
+
+TEST_F(DialogTest, TabInTheOnlyGroupStaysIfThatWasNotStarted) {
+  AddProbe(false);
+  AddProbe(false);
+  Keys("Down Tab");
+  Then([&] { EXPECT_EQ(dialog->Focus(), 1); });
+  Keys("Esc");
+  dialog->Run();
+}
+
 TEST_F(DialogTest, TheFocusStartsOnTheFirstElementThatTakesIt) {
   dialog->AddStaticText(0, 0, "Name:");
   AddProbe(false);

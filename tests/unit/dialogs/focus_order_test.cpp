@@ -51,10 +51,13 @@ TEST_F(FocusOrder, TheTargetOfTabMayBeAPlaceWithoutFocus) {
   EXPECT_EQ(NextGroup(places, 5, +1), 0);
 }
 
-TEST_F(FocusOrder, WithoutAnotherGroupTabStays) {
-  const FocusPlace two[] = {{0, 0, true, true}, {0, 0, true, false}};
+TEST_F(FocusOrder, WithoutAnotherGroupTabGoesToTheFirstOfItsOwnIfThatWantsIt) {
+  FocusPlace two[] = {{0, 1, true, true}, {0, 0, true, false}};
+  EXPECT_EQ(NextGroup(two, 1, +1), 0);
+  EXPECT_EQ(NextGroup(two, 1, -1), 0);
+  EXPECT_EQ(NextGroup(two, 0, +1), 0);
+  two[0].tabToFirst = false;
   EXPECT_EQ(NextGroup(two, 1, +1), 1);
-  EXPECT_EQ(NextGroup(two, 0, -1), 0);
 }
 
 TEST_F(FocusOrder, AnElementAloneKeepsTheFocus) {
