@@ -141,8 +141,8 @@ int SortedCollection::SearchKey(const void* key, int64_t& index) const {
 }
 
 int SortedCollection::InsertItem(void* item) {
-  int64_t index = count;
-  if (!unsorted && SearchKey(KeyOfItem(item), index) == 0 && !allowDuplicates) return -1;
+  int64_t index = 0;
+  if (SearchKey(KeyOfItem(item), index) == 0 && !allowDuplicates) return -1;
   GrowIfFull();
   OpenGap(items, count, index);
   items[index] = item;

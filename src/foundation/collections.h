@@ -124,7 +124,6 @@ class SortedCollection {
   void GrowIfFull();
 
   bool allowDuplicates;
-  bool unsorted = false;
   void** items;
   int64_t count = 0;
   int64_t capacity;
