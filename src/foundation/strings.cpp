@@ -94,9 +94,9 @@ void TextBuffer<Char>::AppendElement(Char ch) {
 }
 
 // A larger heap buffer changes hands. Any other text is copied, so that no
-// buffer shrinks.
+// buffer shrinks; it fits, so that nothing is allocated.
 template <class Char>
-void TextBuffer<Char>::Take(TextBuffer& other) {
+void TextBuffer<Char>::Take(TextBuffer& other) noexcept {
   if (this == &other) return;
   if (other.IsInline() || other.capacity <= capacity) {
     AssignText(other.p);
@@ -125,7 +125,7 @@ Estring& Estring::operator=(const Estring& other) {
   return *this;
 }
 
-Estring& Estring::operator=(Estring&& other) {
+Estring& Estring::operator=(Estring&& other) noexcept {
   Take(other);
   return *this;
 }
@@ -216,7 +216,7 @@ Westring& Westring::operator=(const Westring& other) {
   return *this;
 }
 
-Westring& Westring::operator=(Westring&& other) {
+Westring& Westring::operator=(Westring&& other) noexcept {
   Take(other);
   return *this;
 }

@@ -56,7 +56,7 @@ class TextBuffer {
   void AssignText(const Char* text, int n);  // exactly n elements
   void AppendText(const Char* text);
   void AppendElement(Char ch);
-  void Take(TextBuffer& other);  // leaves other empty
+  void Take(TextBuffer& other) noexcept;  // leaves other empty
 
   Char* p;
   int32_t capacity;
@@ -75,11 +75,11 @@ class Estring : public TextBuffer<char> {
   Estring() = default;
   Estring(const char* text) { AssignText(text); }
   Estring(const Estring& other) : TextBuffer() { AssignText(other.p); }
-  Estring(Estring&& other) : TextBuffer() { Take(other); }
+  Estring(Estring&& other) noexcept : TextBuffer() { Take(other); }
 
   Estring& operator=(const char* text);
   Estring& operator=(const Estring& other);
-  Estring& operator=(Estring&& other);
+  Estring& operator=(Estring&& other) noexcept;
   void Assign(const char* text, int n) { AssignText(text, n); }
 
   static Estring Reserved(int n);            // empty, room for n characters
@@ -107,11 +107,11 @@ class Westring : public TextBuffer<wchar_t> {
   explicit Westring(const Estring& bytes);    // each byte is a code point 0 to 255
   Westring(const char* bytes, int codePage);  // see code_pages.h
   Westring(const Westring& other) : TextBuffer() { AssignText(other.p); }
-  Westring(Westring&& other) : TextBuffer() { Take(other); }
+  Westring(Westring&& other) noexcept : TextBuffer() { Take(other); }
 
   Westring& operator=(const wchar_t* text);
   Westring& operator=(const Westring& other);
-  Westring& operator=(Westring&& other);
+  Westring& operator=(Westring&& other) noexcept;
   void Assign(const wchar_t* text, int n) { AssignText(text, n); }
 
   static Westring Reserved(int n);

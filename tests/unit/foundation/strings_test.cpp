@@ -8,6 +8,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -146,6 +147,16 @@ TEST(Strings, MovedFromStringIsEmptyAndUsable) {
   EXPECT_TRUE(shortText.IsEmpty());
   shortText += L"new";
   EXPECT_STREQ(shortText.Text(), L"new");
+}
+
+// What lets a growing std::vector move its strings and not copy them.
+TEST(Strings, MovingNeverAllocates) {
+  EXPECT_TRUE(std::is_nothrow_move_constructible_v<Estring>);
+  EXPECT_TRUE(std::is_nothrow_move_assignable_v<Estring>);
+  std::vector<Westring> strings(1, Westring::Replicate(L'x', 50));
+  const wchar_t* const buffer = strings[0].Text();
+  strings.reserve(strings.capacity() + 1);
+  EXPECT_EQ(strings[0].Text(), buffer);
 }
 
 TEST(Strings, WildIndexReachesTheLastElement) {
