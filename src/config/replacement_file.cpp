@@ -113,8 +113,8 @@ int ReplacementFile::Open(const Westring& path) {
 
 int ReplacementFile::Commit() {
   if (const int code = file.Sync()) return code;
+  isOurs = false;  // it is whole: where the old file can't be replaced, the user still has it
   // While the lock is held, so that the name is still our file.
   if (rename(scratch.Text(), target.Text()) != 0) return errno;
-  isOurs = false;
   return file.Close();
 }

@@ -7,7 +7,7 @@
 
 class ReplacementFile {
  public:
-  // Without Commit the scratch file goes.
+  // The scratch file goes unless its content was brought to the disk.
   ~ReplacementFile();
 
   // Opens the scratch file beside path, or where path is a symbolic link, beside
@@ -18,7 +18,8 @@ class ReplacementFile {
   Westring ScratchPath() const { return Westring(scratch.Text()); }
 
   // Brings the content to the disk and puts it over the old file, whose mode and
-  // owner it has got. 0 or errno; after an error the old file is as it was.
+  // owner it has got. 0 or errno; after an error the old file is as it was. If it
+  // could not be replaced, the scratch file stays beside it with all the content.
   int Commit();
 
  private:

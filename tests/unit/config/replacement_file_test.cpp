@@ -154,3 +154,14 @@ TEST_F(ReplacementFileTest, FailedCommitLeavesTheOldFile) {
   EXPECT_EQ(replacement.Commit(), ENOENT);
   EXPECT_EQ(box.Content("f.ini"), "old");
 }
+
+TEST_F(ReplacementFileTest, ContentStaysInTheScratchFileIfTheOldOneCannotBeReplaced) {
+  {
+    ReplacementFile replacement;
+    ASSERT_EQ(replacement.Open(Path("f.ini")), 0);
+    replacement.File().Write("new", 3);
+    box.MakeDirectory("f.ini");  // by another program, in the meantime
+    EXPECT_EQ(replacement.Commit(), EISDIR);
+  }
+  EXPECT_EQ(box.Content("f.!!!"), "new");
+}
