@@ -4,6 +4,7 @@
 #include <climits>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "config/option_text.h"
 #include "config/settings_file.h"
@@ -44,6 +45,32 @@ TEST_F(OptionTable, HasSeventyNineRowsOfWhichTwoHaveNoStore) {
   EXPECT_EQ(Row("Use132").store, nullptr);
   EXPECT_STREQ(kOptionTable[0].key, "AutoIndent");
   EXPECT_STREQ(kOptionTable[78].key, "Colours");
+}
+
+// What users have in their files, letter by letter.
+TEST_F(OptionTable, KeysAndDefaultsAreThoseOfEveryFileInTheirOrder) {
+  const std::vector<std::string> expected = {
+      "AutoIndent=off", "AutoSave=off", "Background=gnome-terminal -x ! &", "BriefWordRight=on",
+      "CaseFilter=", "CaseMod=ll", "CaseModRecurse=off", "CaseModDirs=on", "CaseModFiles=on",
+      "Clock=off", "CmdChar=!", "CMPContents=off", "CMPMask=*", "CMPSize=0", "CMPTime=1",
+      "CMPUnmatched=on", "CodePage=0", "Confirmations=0", "ConsoleScrollback=on", "CtrlRDriveChng=off",
+      "DisableInvert=off", "Editor=", "Editor2=editor", "EscPanelSwitch=off", "ExpandedTrees=on",
+      "FFRootSearch=on", "FFRecurse=on", "FFCase=off", "FFWholeWord=off", "FFMultiDrive=off",
+      "FFDriveList=", "FontFamily=DejaVu Sans Mono", "FontSize=12", "FullScreen=on", "Hidden=off",
+      "IndentWidth=1", "KeepExtVisible=on", "Left=", "Right=", "LeftFilter=*", "RightFilter=*",
+      "LeftSort=name", "RightSort=name", "LeftStyle=full", "RightStyle=full", "LeftShowing=on",
+      "RightShowing=on", "LeftType=files", "RightType=files", "Lines=0", "Columns=0", "MaxHist=500",
+      "MouSpeed=8", "NumLock=off", "OverStrike=off", "PathAppend=", "PathPrompt=on", "PMClip=on",
+      "RetainCount=off", "Saver=0", "ScrollDelay=10", "Shadows=on", "SizeCountPause=off",
+      "StartupSide=L", "StickyAlt=on", "TabWidth=8", "TagDirs=off", "TextCodePage=0", "TimeMode=12",
+      "ThousandSep=off", "TranslateCP=", "TreeDir=", "Viewer=", "Viewer2=pager", "ViewerWrap=on",
+      "WaitDOS=off", "Colours=27 48 30 62 26 32 7 112 79 48 3 63 48 15 14 7 27 48 ",
+  };
+  std::vector<std::string> lines;
+  for (int i = 0; i < kOptionCount; ++i)
+    if (const OptionRow& row = kOptionTable[i]; row.store)
+      lines.push_back(std::string(row.key) + "=" + OptionText(row).Text());
+  EXPECT_EQ(lines, expected);
 }
 
 TEST_F(OptionTable, DefaultsOfEachType) {
