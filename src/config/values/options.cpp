@@ -90,6 +90,11 @@ Westring StoredPaths[kStoredPaths];
 Westring ProgramPath;
 Westring IniFileArgument;
 
+uint16_t TextPage() {
+  constexpr int kLatinOne = 819;
+  return static_cast<uint16_t>(Options::TextCodePage != 0 ? Options::TextCodePage : kLatinOne);
+}
+
 const OptionRow kOptionTable[] = {
     {"AutoIndent", OptionType::OnOff, &Options::AutoIndent, "off"},
     {"AutoSave", OptionType::OnOff, &Options::AutoSave, "off"},

@@ -94,6 +94,10 @@ extern Westring StoredPaths[kStoredPaths];  // d0 to d9; empty ones are not writ
 extern Westring ProgramPath;      // argv[0], absolute; names the settings files
 extern Westring IniFileArgument;  // the settings file of the command line, absolute, or empty
 
+// The page of a new viewer or editor: TextCodePage, or Latin-1 where that is 0,
+// and not the page of all other 8-bit text.
+uint16_t TextPage();
+
 // One row of the table that joins keys and globals; its order is the order of
 // writing.
 enum class OptionType { Bytes, Wide, Integer, OnOff, Character, TimeModeName, SortName, StyleName, TypeName, ColourList };
