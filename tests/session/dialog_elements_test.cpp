@@ -64,6 +64,16 @@ TEST_F(DialogTest, ItsColoursAreItsOwnAndTwiceThatOfInputFields) {
   EXPECT_EQ(Attribute(20, 5), kColour);  // the frame
 }
 
+TEST_F(DialogTest, AColourThatIsSetIsThatOfItsButtons) {
+  dialog->SetColour(kDialogText, 0x2F);
+  dialog->SetColour(kDialogFocused, 0x4F);
+  dialog->AddButtons(2, 5, true, std::array<ButtonRow, 3>{{{'a', "One"}, {'b', "Two"}, {0, nullptr}}}.data());
+  dialog->Redraw(-1);
+  EXPECT_EQ(Attribute(25, 11), 0x4F);
+  EXPECT_EQ(Attribute(34, 11), 0x2F);
+  EXPECT_EQ(dialog->Colour(kDialogField), Options::Colours[kColourInputFields]);
+}
+
 TEST_F(DialogTest, TextsStandAtTheirPlaceOrInTheMiddle) {
   dialog->AddStaticText(2, 1, "left");
   dialog->AddStaticText(-1, 2, "middle", 0x4F);
