@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int kBlue = 1, kCyan = 3;  // palette indices of panel and cursor bar on a file
-constexpr unsigned kLeftButton = 1, kRightButton = 3, kWheelDown = 5;
+constexpr unsigned kLeftButton = 1, kMiddleButton = 2, kRightButton = 3, kWheelDown = 5;
 const FileList kFiveFiles = {{"left/a", ""}, {"left/b", ""}, {"left/c", ""}, {"left/d", ""}, {"left/e", ""}};
 
 }  // namespace
@@ -88,4 +88,22 @@ TEST(Input, DragOverTheConsoleTextCopiesIt) {
   d.Release(kLeftButton);
   // Blank rows: each gives its line end and nothing else.
   EXPECT_TRUE(d.Eventually([&] { return d.Clipboard() == "\n\n"; })) << d.Clipboard();
+}
+
+TEST(Input, ClickOnTheConsoleTextCopiesNothing) {
+  Desktop d;
+  d.Keys("Ctrl-O");
+  ASSERT_TRUE(d.Eventually([&] { return d.Background(5, 10) == 0; })) << "the panels are off";
+  d.SetClipboard("kept");
+  d.Click(kLeftButton, 3, 20);
+  d.Keys("'behind the click'");
+  ASSERT_TRUE(d.EventuallyShows(">behind the click"));
+  EXPECT_EQ(d.Clipboard(), "kept");
+}
+
+TEST(Input, MiddleButtonMeansNothing) {
+  Desktop d(kFiveFiles);
+  d.Click(kMiddleButton, 5, 4);
+  d.Keys("Down");
+  EXPECT_TRUE(d.Eventually([&] { return d.Background(5, 2) == kCyan; }));
 }
