@@ -29,10 +29,10 @@ struct entry {
   uint8_t tagged;
   uint8_t processed;  // an operation has dealt with it and taken its tag
   uint8_t sizeKnown;  // a directory's size is a counted one
-  uint8_t sortGroup;
   int64_t treeLink;    // -1 outside the tree
   TreeNode* treeNode;  // null outside the tree
-  wchar_t name[1];     // as many as the name needs
+  uint8_t sortGroup;
+  wchar_t name[1];  // as many as the name needs
 
   bool IsDirectory() const { return attributes & kAttrDirectory; }
   bool IsLink() const { return attributes & kAttrLink; }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cwchar>
 
 namespace {
@@ -10,6 +11,10 @@ TEST(Entry, ABlockIsTheHeadAndFourBytesForEachCharacter) {
   EXPECT_EQ(EntryBytes(0), sizeof(entry));
   EXPECT_EQ(EntryBytes(2), 64u);
   EXPECT_EQ(EntryBytes(255), sizeof(entry) + 255 * 4);
+}
+
+TEST(Entry, TheHeadEndsWithTheElementOfTheTerminator) {
+  EXPECT_EQ(offsetof(entry, name) + sizeof(wchar_t), sizeof(entry));
 }
 
 TEST(Entry, ANewOneIsAllZeroButForItsNameAndItsLinkOutsideTheTree) {
