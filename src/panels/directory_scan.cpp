@@ -56,8 +56,7 @@ entry* MakeEntry(int directory, const char* rawName, const Westring& name, struc
   e->mode = static_cast<uint16_t>(status.st_mode);
   e->uid = static_cast<uint16_t>(status.st_uid);
   e->gid = static_cast<uint16_t>(status.st_gid);
-  e->modified.seconds = static_cast<uint32_t>(status.st_mtim.tv_sec);
-  e->modified.nanoseconds = static_cast<uint32_t>(status.st_mtim.tv_nsec);
+  e->modified = FromTimespec(status.st_mtim);
   return e;
 }
 

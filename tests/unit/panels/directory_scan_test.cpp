@@ -132,6 +132,14 @@ TEST(DirectoryScan, TheTimeHasItsNanoseconds) {
   EXPECT_EQ(found.at(L"file")->modified.nanoseconds, 123456789u);
 }
 
+TEST(DirectoryScan, ATimeBeforeTheEpochIsTheEpochAndNoneOfTheFarFuture) {
+  ScratchDirectory scratch;
+  scratch.Write("file", "");
+  const timespec times[2] = {{0, UTIME_OMIT}, {-86400, 5}};
+  ASSERT_EQ(utimensat(AT_FDCWD, scratch.Path("file").c_str(), times, 0), 0);
+  EXPECT_EQ(Scan(scratch.Path()).at(L"file")->modified, FileTime());
+}
+
 // The rule for the present user, so that it holds for root as well.
 TEST(DirectoryScan, ReadOnlyIsWhatNeitherOwnerNorGroupNorAllMayWrite) {
   ScratchDirectory scratch;
