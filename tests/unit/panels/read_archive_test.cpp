@@ -34,7 +34,15 @@ TEST_F(ReadArchive, TheInteriorPathHasNoLeadingSlash) {
   Open("/docs/old").directories[L"docs/old"] = {{L"..", kAttrDirectory}, {L"inside"}};
   ReadPanel(Left());
   EXPECT_EQ(NamesOf(Left()), (Names{"..", "inside"}));
+}
+
+TEST_F(ReadArchive, InAnArchiveThereIsNoFileSystemAndNamesKeepTheirCase) {
+  CopyText(Left().fileSystem, L"vfat");
+  Options::CaseFilter = L"VFAT";
+  Open().directories[L""] = {{L"..", kAttrDirectory}, {L"Docs", kAttrDirectory}, {L"Text"}};
+  ReadPanel(Left());
   EXPECT_STREQ(Left().fileSystem, L"");
+  EXPECT_EQ(NamesOf(Left()), (Names{"..", "Docs", "Text"}));
 }
 
 TEST_F(ReadArchive, AnArchiveWhoseFileIsGoneIsLeft) {

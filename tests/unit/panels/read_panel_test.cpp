@@ -1,5 +1,7 @@
 #include "panels/read_panel.h"
 
+#include <sys/wait.h>
+
 #include <algorithm>
 
 #include "unit/panels/two_panels.h"
@@ -21,6 +23,22 @@ TEST_F(ReadPanelTest, TheRootShowsNoWayUp) {
   EXPECT_GT(Left().count, 0);
   EXPECT_EQ(EntryOf(Left(), ".."), nullptr);
   EXPECT_EQ(EntryOf(Left(), "."), nullptr);
+}
+
+// In a process whose root the empty directory is; the count is its exit code.
+TEST_F(ReadPanelTest, AnEmptyRootIsAnEmptyList) {
+  if (getuid() != 0) GTEST_SKIP() << "only root can change the root";
+  const pid_t child = fork();
+  if (child == 0) {
+    if (chroot(scratch.Path().c_str()) != 0 || chdir("/") != 0) _exit(100);
+    CopyText(Left().path, L"/");
+    ReadPanel(Left());
+    _exit(Left().count);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
 TEST_F(ReadPanelTest, DirectoriesComeBeforeHiddenFilesAndThoseBeforeTheRest) {
@@ -112,13 +130,15 @@ TEST_F(ReadPanelTest, TheFileSystemAndItsMountPointAreKnown) {
 
 TEST_F(ReadPanelTest, TheCaseFilterShowsDirectoriesUpperAndFilesLower) {
   scratch.MakeDirectory("MixedDir");
-  MakeFiles({"MixedFile.Txt", "\xc3\x84rger"});
+  scratch.MakeDirectory("\xc3\xa4rger");
+  MakeFiles({"MixedFile.Txt"});
   Read();
   if (!*Left().fileSystem) GTEST_SKIP() << "no mount table here";
   Options::CaseFilter = Westring(L"vfat,") + Fold(Left().fileSystem);
   Read();
   EXPECT_NE(EntryOf(Left(), "MIXEDDIR"), nullptr);
   EXPECT_NE(EntryOf(Left(), "mixedfile.txt"), nullptr);
+  EXPECT_NE(EntryOf(Left(), "\xc3\x84RGER"), nullptr);
   Options::CaseFilter = L"no such type";
   Read();
   EXPECT_NE(EntryOf(Left(), "MixedDir"), nullptr);
