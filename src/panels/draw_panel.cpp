@@ -7,7 +7,6 @@
 #include "config/values/colours.h"
 #include "config/values/options.h"
 #include "console/console.h"
-#include "foundation/paths.h"
 #include "panels/columns.h"
 #include "panels/entry_row.h"
 #include "panels/navigation.h"
@@ -16,8 +15,6 @@
 #include "panels/status_line.h"
 
 namespace {
-
-constexpr int kMostOfTitle = 50;
 
 // One drawing for all that is written in its life.
 struct UpdateScope {
@@ -86,7 +83,7 @@ void DrawPanel(TPanel& panel) {
   }
   BringCursorIntoView(panel);
   DrawList(panel);
-  SetAppTitle(ShortenPath(ActivePanel().path, kMostOfTitle).Text());
+  ShowPathInAppTitle();
 }
 
 void DrawTitle(TPanel& panel, bool active, int clockWidth) {

@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr int kTitleWidth = 50;
 constexpr int kNoSide = -1;
 
 // The side whose title is shown as the active one.
@@ -136,7 +135,7 @@ void ActivateSide(int side) {
   titledSide = side;
   DrawTitle(Panels[0]);
   DrawTitle(Panels[1]);
-  SetAppTitle(ShortenPath(Panels[side].path, kTitleWidth).Text());
+  ShowPathInAppTitle();
   ChangeProcessDirectory(Panels[side]);
 }
 
@@ -163,4 +162,9 @@ void SetAppTitle(const wchar_t* text) {
     Console->SetTitle(L"");
   else
     Console->SetTitle(Westring(L"Orvane: ") + text);
+}
+
+void ShowPathInAppTitle() {
+  constexpr int kMostCharacters = 50;
+  SetAppTitle(ShortenPath(ActivePanel().path, kMostCharacters).Text());
 }

@@ -37,3 +37,6 @@ void AddDirectoryHistory(const Westring& path);
 // The window's title: "Orvane V2.40-dev" for null, empty for an empty text,
 // otherwise "Orvane: " and the text.
 void SetAppTitle(const wchar_t* text);
+
+// The same with the path of the active panel, cut to 50 characters.
+void ShowPathInAppTitle();

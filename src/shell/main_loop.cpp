@@ -2,7 +2,6 @@
 #include "shell/main_loop.h"
 
 #include "console/console.h"
-#include "foundation/paths.h"
 #include "panels/draw_panel.h"
 #include "panels/navigation.h"
 #include "shell/clock.h"
@@ -12,8 +11,6 @@
 #include "shell/screen.h"
 
 namespace {
-
-constexpr int kTitleWidth = 50;
 
 uint32_t DrawnModifiers = 0;  // for which the function-key bar was painted
 
@@ -45,7 +42,7 @@ void PaintLines(Shell& shell) {
   if (shell.redrawLevel < kRedrawAll) return;
   PaintKeyBar(BarLabels(CurrentModifiers));
   DrawnModifiers = CurrentModifiers;
-  SetAppTitle(ShortenPath(ActivePanel().path, kTitleWidth).Text());
+  ShowPathInAppTitle();
 }
 
 void ReadNextKey(Shell& shell) {
