@@ -1,0 +1,38 @@
+// A directory of the benchmarks' own.
+#include "scratch.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+Scratch::Scratch() {
+  const char* const place = getenv("TMPDIR");
+  root = std::string(place && *place ? place : "/tmp") + "/orvane-bench-XXXXXX";
+  if (mkdtemp(root.data())) return;
+  perror(root.c_str());
+  exit(2);
+}
+
+Scratch::~Scratch() {
+  std::error_code ignored;
+  std::filesystem::remove_all(root, ignored);
+}
+
+void Scratch::Write(const std::string& name, const std::string& content) const {
+  const std::filesystem::path path = Path(name);
+  std::filesystem::create_directories(path.parent_path());
+  std::ofstream(path) << content;
+}
+
+void Scratch::MakeEmptyFile(const std::string& name) const {
+  const int file = open(Path(name).c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0644);
+  if (file < 0) {
+    perror(Path(name).c_str());
+    exit(2);
+  }
+  close(file);
+}
