@@ -337,6 +337,13 @@ TEST_F(StdFileTest, SmallWritesStayInTheBufferUntilFlushed) {
   EXPECT_EQ(file.Size(), 3);
 }
 
+TEST_F(StdFileTest, SyncFlushesWhatIsPending) {
+  ASSERT_EQ(Open("f", kNewFile), 0);
+  file.Write("abc", 3);
+  EXPECT_EQ(file.Sync(), 0);
+  EXPECT_EQ(box.Content("f"), "abc");
+}
+
 TEST_F(StdFileTest, TextModeTurnsNewlinesInPutTextOnly) {
   ASSERT_EQ(Open("f", kNewFile | kOpenText), 0);
   EXPECT_EQ(file.PutText("a\nb\n\nc"), 0);
@@ -492,6 +499,14 @@ TEST_F(StdFileTest, SeekFlushesWhatIsPending) {
   file.Write("X", 1);
   file.Close();
   EXPECT_EQ(box.Content("f"), "aXc");
+}
+
+TEST_F(StdFileTest, RewindFlushesWhatIsPending) {
+  ASSERT_EQ(Open("f", kBoth | kOpenCreate), 0);
+  file.Write("abc", 3);
+  EXPECT_EQ(file.Rewind(), 0);
+  EXPECT_EQ(file.Tell(), 0);
+  EXPECT_EQ(ReadText(9), "abc");
 }
 
 TEST_F(StdFileTest, FailedSeekLeavesThePosition) {
