@@ -179,6 +179,13 @@ TEST_F(ExpandEnvironmentTest, LeadingTildeAndSlashAreTheHome) {
   EXPECT_EQ(Expanded("/~/x"), "/~/x");
 }
 
+TEST_F(ExpandEnvironmentTest, WithoutAHomeVariableTheTildeIsTheAccounts) {
+  Variables.Set("HOME", nullptr);
+  EXPECT_EQ(Expanded("~/x"), std::string(HomeDirectory().Text()) + "/x");
+  Variables.Set("HOME", "");
+  EXPECT_EQ(Expanded("~/x"), std::string(HomeDirectory().Text()) + "/x");
+}
+
 TEST_F(ExpandEnvironmentTest, NamesBecomeTheirValues) {
   Variables.Set("ONE", "1");
   Variables.Set("LONG_NAME2", "two");
