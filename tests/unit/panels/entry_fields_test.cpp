@@ -83,6 +83,13 @@ TEST_F(EntryFields, DirectoriesShowMarksBetweenTriangles) {
   EXPECT_EQ(Mark(L"...", 0, 8), L"\x10SUBDIR\x11");
 }
 
+// As in unix on 80 columns.
+TEST_F(EntryFields, MarksLoseTheirFirstTriangleInSevenColumns) {
+  EXPECT_EQ(Mark(L"..", 0, 7), L"UP-DIR\x11");
+  EXPECT_EQ(Mark(L"d", 0, 7), L"SUBDIR\x11");
+  EXPECT_EQ(Mark(L"d", kAttrLink, 7), L" LINK \x11");
+}
+
 TEST_F(EntryFields, CountedDirectoryShowsItsSize) {
   entry& d = Add(L"d", 4711, kAttrDirectory);
   d.sizeKnown = 1;
