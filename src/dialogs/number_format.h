@@ -5,7 +5,8 @@
 
 #include "foundation/strings.h"
 
-// At most width characters: whole where it fits, else in K, M, G or T.
+// For a field of width columns: whole where it fits, else in K, M, G or T. A value
+// just at a unit's limit, or more T than fit, is longer than the field.
 Westring FormatSize(uint64_t value, int width);
 
 // For counts and rates: at most 11 digits, and only K and M.
