@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "config/values/colours.h"
 #include "console/screen_size.h"
 #include "console/toolkit_lock.h"
 
@@ -14,7 +15,6 @@ constexpr ScreenSize kFirstSize{80, 25};
 constexpr int kFirstFontSize = 12;
 constexpr int kMostFontSize = 1000;  // where shrinking begins
 constexpr int kFirstCodePage = 850;
-constexpr uint8_t kFirstAttribute = 7;
 constexpr int kFirstCursorSize = 15;
 
 constexpr int kEvents = GDK_BUTTON_MOTION_MASK | GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK |
@@ -37,7 +37,7 @@ CConsoleWindow::CConsoleWindow()
       fontSize(kFirstFontSize),
       codePage(kFirstCodePage),
       cursorSize(kFirstCursorSize),
-      defaultAttribute(kFirstAttribute) {
+      defaultAttribute(Options::Colours[kColourCommandLine]) {
   add_events(static_cast<Gdk::EventMask>(kEvents));
   set_resizable(false);
   Layout(kFirstSize.columns, kFirstSize.rows, fontSize);

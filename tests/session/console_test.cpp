@@ -1,6 +1,9 @@
 // The console on a display: what its calls cost, change and leave alone.
 #include "console/console.h"
 
+#include <utility>
+
+#include "config/values/colours.h"
 #include "console/scrollback.h"
 #include "support/console_fixture.h"
 
@@ -304,6 +307,27 @@ TEST(ConsoleLife, StartsAndEndsAtAnyMoment) {
       console.GetClipboardText(text);  // needs the GUI thread to run
     }
   }
+}
+
+TEST(ConsoleLife, BeginsWithTextInTheColourOfTheCommandLine) {
+  Sandbox files;
+  files.Make({{"home/", ""}, {"temp/", ""}});
+  const VirtualDisplay display;
+  EnterTestEnvironment(files, display.Name());
+  char name[] = "session";
+  char* arguments[] = {name, nullptr};
+  int argc = 1;
+  char** argv = arguments;
+  const Toolkit toolkit(argc, argv);
+  ASSERT_TRUE(toolkit.IsReady());
+  const uint8_t usual = std::exchange(Options::Colours[kColourCommandLine], 0x2E);
+  CConsole console;
+  Options::Colours[kColourCommandLine] = usual;
+  console.WriteText("text");
+  CellString row;
+  console.ReadRow(row, 0, 0, 5, 1);
+  EXPECT_EQ(row[0], (Cell{'t', 0x2E}));
+  EXPECT_EQ(row[4].attribute, 7);
 }
 
 TEST(ConsoleLife, WithoutADisplayTheToolkitIsNotReady) {
