@@ -466,6 +466,9 @@ TEST_F(StdFileTest, SeekInsideTheBufferDoesNotAskTheFile) {
   EXPECT_EQ(ReadText(3), "123");
   EXPECT_EQ(file.SeekRelative(-2), 0);
   EXPECT_EQ(ReadText(2), "23");
+  EXPECT_EQ(file.Seek(10), 0);  // its end belongs to it
+  EXPECT_EQ(file.SeekRelative(-3), 0);
+  EXPECT_EQ(ReadText(3), "789");
 }
 
 TEST_F(StdFileTest, RewindGoesToTheFileUnlessAnErrorIsPending) {
