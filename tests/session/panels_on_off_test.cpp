@@ -68,6 +68,14 @@ TEST(PanelsOnOff, OneThatCameBackWhileBothWereOffIsForgottenAsOff) {
   EXPECT_EQ(AfterKeys(s, "Ctrl-O Ctrl-O"), "LR");
 }
 
+TEST(PanelsOnOff, OneThatWasOffAtTheStartStaysOff) {
+  Session left(kFiles, {.settings = "LeftShowing=off\n"});
+  EXPECT_EQ(AfterKeys(left, "Ctrl-O Ctrl-O"), "-R");
+  left.Quit();
+  Session right(kFiles, {.settings = "RightShowing=off\n"});
+  EXPECT_EQ(AfterKeys(right, "Ctrl-O Ctrl-O"), "L-");
+}
+
 TEST(PanelsOnOff, CtrlF1TwiceKeepsDirectoryStyleAndCursor) {
   Session s(kFiles);
   s.Keys("Alt-Shift-F1 Down Ins Ctrl-F1");
@@ -254,6 +262,13 @@ TEST(InfoPanel, APanelBroughtUpForInformationGoesWithIt) {
   EXPECT_EQ(Shown(s), "L-");
   s.Keys("Ctrl-F2");
   EXPECT_TRUE(PanelRow(s, kRightSide, 2).Contains("x "));
+}
+
+TEST(InfoPanel, GoneWithItsInformationAPanelCountsAsSwitchedOff) {
+  Session s(kFiles);
+  s.Keys("Ctrl-F2 Ctrl-L Ctrl-L Ctrl-F1");
+  EXPECT_EQ(Shown(s), "--");
+  EXPECT_EQ(AfterKeys(s, "Ctrl-O"), "LR");
 }
 
 TEST(InfoPanel, TheMemoryOfThatTravelsWithTheSwap) {

@@ -160,12 +160,14 @@ TEST(ScreenSize, FullScreenOffShowsTheConsoleBelowThePanels) {
   EXPECT_EQ(BottomRow(s, kLeftSide), 22);
 }
 
-TEST(ScreenSize, FullScreenCountsForAHiddenPanelToo) {
+TEST(ScreenSize, FullScreenLetsAHiddenPanelBeReadWhenItComesBack) {
   Session s(kFiles);
   s.Keys("Ctrl-F2");
+  s.Write("right/y", "");
   s.Command(0x100131);
   s.Keys("Ctrl-F2");
   EXPECT_EQ(BottomRow(s, kRightSide), 14);
+  EXPECT_EQ(s.Names(kRightSide), (Strings{"..", "x", "y"}));
 }
 
 TEST(Toggles, ThousandSeparatorRedrawsBothPanels) {
