@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "panels/navigation.h"
 #include "session/main_screen.h"
 
 namespace {
@@ -108,6 +109,13 @@ TEST(Navigation, CtrlMinusGoesBackToTheDirectoryBefore) {
   EXPECT_EQ(s.Under(kLeftSide), "c");
   s.Keys("Ctrl--");
   EXPECT_EQ(s.PanelPath(kLeftSide), s.Path("left/c"));
+}
+
+TEST(Navigation, CtrlMinusTakesItsTargetOutOfTheHistoryOfDirectories) {
+  Session s(kTree);
+  s.Keys("Down Enter Ctrl--");
+  ASSERT_EQ(DirectoryHistory.Count(), 1);
+  EXPECT_EQ(std::string(ToUtf8(*DirectoryHistory.Peek(0)).Text()), s.Path("left/a"));
 }
 
 TEST(Navigation, CtrlMinusBringsTheScrolledPositionBack) {
