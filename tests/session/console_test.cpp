@@ -5,6 +5,7 @@
 
 #include "config/values/colours.h"
 #include "console/scrollback.h"
+#include "support/cells.h"
 #include "support/console_fixture.h"
 
 namespace {
@@ -150,7 +151,7 @@ TEST_F(ConsoleTest, TextAtTheBottomScrollsIntoTheScrollback) {
   EXPECT_EQ(Row(22).Trimmed(), "last");
   ExpectCursor(0, 24);
   ASSERT_EQ(ScrollBack.Count(), 2);
-  EXPECT_EQ((*ScrollBack.At(0))[0].character, 'f');
+  EXPECT_EQ(CharacterOf((*ScrollBack.At(0))[0]), 'f');
   ScrollBack.Clear();
 }
 

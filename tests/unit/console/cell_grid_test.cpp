@@ -6,6 +6,8 @@
 #include <climits>
 #include <string>
 
+#include "support/cells.h"
+
 namespace {
 
 std::wstring RowOf(const CellGrid& grid, int y) {
@@ -87,9 +89,9 @@ TEST(CellGrid, RepeatedCellsKeepZeroAndTheCodesAbove126) {
   grid.PutRepeated(0, 0, 1, {0, 7});
   grid.PutRepeated(1, 0, 1, {0x9B, 7});
   grid.PutRepeated(2, 0, 2, {0x10, 7});
-  EXPECT_EQ(grid.At(0, 0).character, 0);
-  EXPECT_EQ(grid.At(1, 0).character, 0x9B);
-  EXPECT_EQ(grid.At(3, 0).character, 0x25BA);
+  EXPECT_EQ(CharacterOf(grid.At(0, 0)), 0);
+  EXPECT_EQ(CharacterOf(grid.At(1, 0)), 0x9B);
+  EXPECT_EQ(CharacterOf(grid.At(3, 0)), 0x25BA);
 }
 
 TEST(CellGrid, AttributesChangeAndCharactersStay) {
@@ -140,8 +142,8 @@ TEST(CellGrid, ReadingAppendsTheRowsOfABlock) {
   CellString line(L">", 7);
   grid.ReadRow(line, 3, 0, 9, 9);
   ASSERT_EQ(line.Length(), 5);
-  EXPECT_EQ(line[2].character, 'e');
-  EXPECT_EQ(line[3].character, 'i');
+  EXPECT_EQ(CharacterOf(line[2]), 'e');
+  EXPECT_EQ(CharacterOf(line[3]), 'i');
 }
 
 TEST(CellGrid, ScrollUpMovesRowsAndBlanksTheLast) {

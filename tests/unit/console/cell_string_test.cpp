@@ -6,6 +6,7 @@
 #include <string>
 
 #include "console/scrollback.h"
+#include "support/cells.h"
 
 namespace {
 
@@ -93,7 +94,7 @@ TEST(CellStrings, MayBeAppendedToThemselves) {
   line.Append(line);
   EXPECT_EQ(TextOf(line), L"0123456789abc0123456789abc");
   for (int i = 0; i < 40; ++i) line.Append(line[0]);
-  EXPECT_EQ(line[65].character, '0');
+  EXPECT_EQ(CharacterOf(line[65]), '0');
   line.Append(line.Cells() + 10, 3);
   EXPECT_EQ(TextOf(line).substr(66), L"abc");
 }

@@ -8,6 +8,7 @@
 
 #include "console/cell_grid.h"
 #include "console/scrollback.h"
+#include "support/cells.h"
 
 namespace {
 
@@ -105,7 +106,7 @@ TEST_F(TeletypeTest, TheTopRowGoesToTheScrollback) {
   Print(L"one\ntwo\nthree\nfour\nfive\n");
   EXPECT_EQ(ScrollBack.Count(), 2);
   EXPECT_EQ(ScrollBack.At(0)->Length(), 20);
-  EXPECT_EQ((*ScrollBack.At(1))[1].character, 'w');
+  EXPECT_EQ(CharacterOf((*ScrollBack.At(1))[1]), 'w');
   EXPECT_EQ(screen.Row(0), L"three");
   EXPECT_EQ(screen.Row(2), L"five");
   EXPECT_EQ(y, 3);
@@ -116,6 +117,6 @@ TEST_F(TeletypeTest, ACursorOffTheScreenIsBroughtBack) {
   x = 99;
   y = -3;
   Print(L"ab");
-  EXPECT_EQ(screen.grid.At(19, 0).character, 'a');
+  EXPECT_EQ(CharacterOf(screen.grid.At(19, 0)), 'a');
   EXPECT_EQ(screen.Row(1), L"b");
 }
