@@ -52,10 +52,22 @@ require_programs() {
   exit 1
 }
 
+cmake_version=3.25
+# The oldest release whose CMake is new enough: Debian 12, Ubuntu 23.04.
+require_cmake() {
+  local found
+  found=$(cmake --version | sed -nE '1s/.* ([0-9]+\.[0-9]+).*/\1/p')
+  if [ "$(printf '%s\n' "$cmake_version" "$found" | sort -V | head -n 1)" != "$cmake_version" ]; then
+    echo "CMake $cmake_version or newer is needed; this system has $found." >&2
+    exit 1
+  fi
+}
+
 # build PRESET TARGETS [-DNAME=VALUE...]: brings the tree build/PRESET up to date.
 # CMake runs only where the tree is not configured this way yet.
 build() {
   local tree=build/$1 targets=$2 setting
+  require_cmake
   for setting in CMAKE_MAKE_PROGRAM "${@:3}"; do
     if ! grep -qE "^$(sed -E 's/^-D//; s/=/:[A-Z]*=/' <<<"$setting")" "$tree/CMakeCache.txt" 2>/dev/null; then
       cmake --preset "$1" "${@:3}" >&2
@@ -63,6 +75,5 @@ build() {
     fi
   done
   # shellcheck disable=SC2086
-  ninja -C "$tree" $targets | grep -vE '^ninja: (Entering directory|no work to do)' >&2
-  return "${PIPESTATUS[0]}"
+  ninja -C "$tree" $targets | { grep -vE '^ninja: (Entering|no work)|Re-checking globbed' || true; } >&2
 }
