@@ -17,7 +17,6 @@ require() {
     [[ $(dpkg-query -W -f='${Status}' "$package" 2>/dev/null) == *" installed" ]] || missing+=("$package")
   done
   [ ${#missing[@]} -eq 0 ] && return
-  echo "Installing: ${missing[*]}" >&2
   local as_root=()
   if [ "$(id -u)" -ne 0 ]; then
     if ! command -v sudo >/dev/null; then
@@ -27,6 +26,7 @@ require() {
     fi
     as_root=(sudo)
   fi
+  echo "Installing: ${missing[*]}" >&2
   # Services and locales may ask on installation; nobody is there to answer.
   if ! { "${as_root[@]}" apt-get -q update && "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
          apt-get -q -y --no-install-recommends install "${missing[@]}"; } >&2 </dev/null; then

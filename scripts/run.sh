@@ -11,8 +11,9 @@ source scripts/packages.sh
 
 has_display() { [ -n "${DISPLAY:-}" ]; }
 
-require "${build_packages[@]}"
-has_display || require "${headless_packages[@]}"
+packages=("${build_packages[@]}")
+has_display || packages+=("${headless_packages[@]}")
+require "${packages[@]}"
 build release stage -DORVANE_STAGED=ON
 program=$root/build/release/stage/bin/orvane
 cd "$start_directory"
