@@ -132,6 +132,7 @@ int ReReadSide(int side) {
   if (!Panels[side].visible) return kRedrawNothing;
   if (Panels[side].IsTree()) Panels[side].treeRebuild = true;
   Enter(side, L"", true, -1, 0);
+  FollowPath(ActivePanel());  // the process stands in the panel read last
   return kRedrawAll;
 }
 
@@ -163,6 +164,7 @@ int GoToStored(Shell&, int digit) {
   }
   panel.panelType = kPanelFiles;
   EnterAtTop(side);
+  FollowPath(ActivePanel());
   return kRedrawAll;
 }
 

@@ -279,6 +279,12 @@ TEST(ReRead, AMenuReadsItsSideOnly) {
   EXPECT_EQ(s.Names(kLeftSide), (Strings{"..", "a", "b"}));
 }
 
+TEST(ReRead, OfTheOtherSideLeavesTheProcessWithTheActivePanel) {
+  Session s(kTree);
+  s.Command(0x10019B);  // re-read of the right side
+  EXPECT_EQ(ProcessDirectory(), s.Path("left"));
+}
+
 TEST(ReRead, WithThePanelsOffNothingIsRead) {
   Session s;
   s.Keys("Ctrl-O");
