@@ -20,6 +20,10 @@ constexpr int kFirstCursorSize = 15;
 constexpr int kEvents = GDK_BUTTON_MOTION_MASK | GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK |
                         GDK_KEY_PRESS_MASK | GDK_KEY_RELEASE_MASK;
 
+// In points. A larger one is a slip in the settings: the window is then kept
+// within the display, so that the slip can be mended in it.
+constexpr int kLargestWantedFont = 96;
+
 // Runs in the loop itself: a quit from outside is lost when the loop has been
 // made but does not yet turn.
 gboolean QuitLoop(gpointer) {
@@ -81,14 +85,22 @@ void CConsoleWindow::SetScreen(int columns, int rows, const Estring& family, int
   Layout(columns, rows, points < 1 ? fontSize : points);
 }
 
+bool CConsoleWindow::FitsDisplay(ScreenSize size) const {
+  return size.columns * painter.CellWidth() <= gdk_screen_width() &&
+         size.rows * painter.CellHeight() <= gdk_screen_height();
+}
+
 // A font too large for any usable screen is made smaller; after that the
 // screen is cut to what fits.
 void CConsoleWindow::Layout(int columns, int rows, int points) {
   const ScreenSize usable{std::min(columns, kFirstSize.columns), std::min(rows, kFirstSize.rows)};
+  const bool isSlip = points > kLargestWantedFont;
   for (points = std::min(points, kMostFontSize); true; points = points * 3 / 4) {
     painter.SetFont(*this, fontFamily, points);
+    if (points == 1) break;
     const ScreenSize fitting = BoundScreen(usable, painter.CellWidth(), painter.CellHeight());
-    if (points == 1 || (fitting.columns == usable.columns && fitting.rows == usable.rows)) break;
+    if (fitting.columns < usable.columns || fitting.rows < usable.rows) continue;
+    if (!isSlip || points <= kFirstFontSize || FitsDisplay(usable)) break;
   }
   const ScreenSize size = BoundScreen({columns, rows}, painter.CellWidth(), painter.CellHeight());
   fontSize = points;

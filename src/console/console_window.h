@@ -15,6 +15,7 @@
 #include "console/cell_painter.h"
 #include "console/event_queue.h"
 #include "console/key_codes.h"
+#include "console/screen_size.h"
 #include "console/selection.h"
 #include "console/update_batch.h"
 
@@ -83,6 +84,7 @@ class CConsoleWindow : public Gtk::Window {
 
   // Under the lock.
   void Layout(int columns, int rows, int points);
+  bool FitsDisplay(ScreenSize size) const;
   void DrawCells(const CellRect& block);
   void DrawCellRow(cairo_t* cairo, const CellRect& block, int y);
   void Repaint(const CellRect& block);
