@@ -8,12 +8,14 @@
   includes the toolkit.
 - docs/architecture.md names every file of src and no other.
 - No file of the project has over 700 lines.
+- The help file reads back and has all of its pages.
 - An install puts each file where the program looks for it.
 """
 import concurrent.futures
 import os
 import re
 import shlex
+import struct
 import subprocess
 import sys
 import tempfile
@@ -24,7 +26,10 @@ SOURCE = ROOT / "src"
 ROOMS = ["foundation", "config/values", "console", "dialogs", "panels", "config", "shell", "program"]
 TOOLKIT = re.compile(r"^(gtk|gdk|glib|gio|pango|cairo|atk|gtkmm|gdkmm|glibmm|giomm|pangomm|cairomm|sigc\+\+|X11)\b")
 MOST_LINES = 700
-PROSE = {".md"}  # may be as long as it likes
+TEXTS = {".h", ".cpp", ".py", ".mjs", ".sh", ".cmake", ".txt", ".html", ".json", ".1"}
+NOT_OURS = {".git", "build"}
+LAST_HELP_PAGE = 30000
+HELP_PAGES = [0, 1, 4, 5, 6, 100, 101, 102, 103, LAST_HELP_PAGE]
 INSTALLED = [
     "usr/share/orvane/orvane.ovd",
     "usr/share/doc/orvane/manual/orvane.html",
@@ -105,15 +110,52 @@ def architecture_lists_every_file(_):
     yield from (f"{name} is listed but not there" for name in sorted(listed - present))
 
 
+def project_files():
+    for directory, names, files in os.walk(ROOT):
+        names[:] = [name for name in names if name not in NOT_OURS]
+        yield from (Path(directory) / name for name in files)
+
+
 def files_are_short(_):
-    names = subprocess.check_output(["git", "-C", ROOT, "ls-files", "-co", "--exclude-standard"], text=True)
-    for name in names.splitlines():
-        path = ROOT / name
-        if path.suffix in PROSE or name == "LICENSE" or not path.is_file():
+    for path in project_files():
+        if path.suffix not in TEXTS:
             continue
         lines = path.read_bytes().count(b"\n")
         if lines > MOST_LINES:
-            yield f"{name} has {lines} lines"
+            yield f"{path.relative_to(ROOT)} has {lines} lines"
+
+
+def help_pages(path):
+    """Page numbers of a compiled help file, read as the program has to."""
+    data = path.read_bytes()
+    at = 0
+    while at + 4 <= len(data):
+        page, length = struct.unpack_from("<HH", data, at)
+        if length < 5 or at + length > len(data) or data[at + length - 1] != 0:
+            raise ValueError(f"the record of page {page} is damaged")
+        yield page
+        at += length
+        if page == LAST_HELP_PAGE:
+            break
+    if at != len(data):
+        raise ValueError("it does not end with its last page")
+
+
+def help_has_every_page(build_directory):
+    target = Path(build_directory) / "help-check.ovd"
+    target.parent.mkdir(parents=True, exist_ok=True)
+    compiler, pages = ROOT / "data/help/compile_help.py", sorted((ROOT / "data/help").glob("*.txt"))
+    result = subprocess.run([sys.executable, compiler, target, *pages], capture_output=True, text=True)
+    if result.returncode != 0:
+        yield result.stderr
+        return
+    try:
+        found = list(help_pages(target))
+    except ValueError as error:
+        yield str(error)
+        return
+    if found != HELP_PAGES:
+        yield f"it has the pages {found}"
 
 
 def install_goes_where_the_program_looks(build_directory):
@@ -131,7 +173,7 @@ def install_goes_where_the_program_looks(build_directory):
 
 
 CHECKS = [headers_compile_alone, rooms_ask_downwards, architecture_lists_every_file, files_are_short,
-          install_goes_where_the_program_looks]
+          help_has_every_page, install_goes_where_the_program_looks]
 
 
 def main(build_directory):

@@ -3,6 +3,6 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
-require "${build_packages[@]}" git
+require "${build_packages[@]}"
 mkdir -p build
 exec python3 scripts/check.py build

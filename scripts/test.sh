@@ -54,7 +54,7 @@ run_tests() {
   passed=$((passed + $(attribute tests) - bad - unrun))
 }
 
-require "${build_packages[@]}" "${test_packages[@]}" git
+require "${build_packages[@]}" "${test_packages[@]}"
 build release all -DORVANE_STAGED=ON -DORVANE_TESTS=ON -DORVANE_BENCH=ON
 check_tree
 run_tests release
