@@ -12,8 +12,6 @@
 
 namespace {
 
-uint32_t DrawnModifiers = 0;  // for which the function-key bar was painted
-
 void ChooseActiveSide(Shell& shell) {
   shell.bothHidden = !Panels[0].visible && !Panels[1].visible;
   if (!shell.bothHidden && !ActivePanel().visible) {
@@ -36,12 +34,12 @@ void PaintCursorBar(Shell& shell) {
 }
 
 void PaintLines(Shell& shell) {
-  if (CurrentModifiers != DrawnModifiers) shell.redrawLevel = kRedrawAll;
+  if (CurrentModifiers != shell.drawnModifiers) shell.redrawLevel = kRedrawAll;
   if (shell.redrawLevel == kRedrawNothing) return;
   PaintCommandLine(shell);
   if (shell.redrawLevel < kRedrawAll) return;
   PaintKeyBar(BarLabels(CurrentModifiers));
-  DrawnModifiers = CurrentModifiers;
+  shell.drawnModifiers = CurrentModifiers;
   ShowPathInAppTitle();
 }
 

@@ -119,6 +119,7 @@ int RunWithConsole(int argc, char** argv) {
     puts(arguments.usageError);
     return 1;
   }
+  if (!arguments.viewFile.IsEmpty()) Console->SetCursorSize(0);
   SetupLocale();
   LoadSettings(false);
   BuildCaseTables();
@@ -132,8 +133,8 @@ int RunWithConsole(int argc, char** argv) {
   Shell shell;
   IdleHook = UpdateClock;
   RunMainLoop(shell);
+  ClosePanels(arguments);  // may still ask, with the clock running
   IdleHook = nullptr;
-  ClosePanels(arguments);
   return 0;
 }
 

@@ -28,6 +28,7 @@ struct Shell {
   Westring savedLine;    // that line, while browsing
 
   int redrawLevel = kRedrawAll;
+  uint32_t drawnModifiers = 0;  // for which the function-key bar was painted
   bool cursorDirty = true;  // the panel cursor must be painted
   bool bothHidden = false;
   int currentIndex = 0;

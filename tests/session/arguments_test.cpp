@@ -30,6 +30,10 @@ TEST(Arguments, AnUnknownOptionEndsWithTheUsage) {
   }
 }
 
+TEST(Arguments, AnInternalToolThatIsNotThereIsRefused) {
+  for (const char* option : {"-v", "-e", "\\e"}) EXPECT_EQ(RunToEnd({option, "file"}).exitCode, 1) << option;
+}
+
 TEST(Arguments, AUsageErrorShowsNoPromptOfTheSettings) {
   const EndedRun run = RunToEnd({"-Q"}, {{"home/.orvane/orvane.ini", "nonsense=1\n"}});
   EXPECT_EQ(run.exitCode, 1);

@@ -1,6 +1,8 @@
 // How the program comes up and how it ends.
 #include <gtest/gtest.h>
 
+#include "console/console.h"
+#include "foundation/code_pages.h"
 #include "session/main_screen.h"
 
 namespace {
@@ -114,6 +116,40 @@ TEST(StartUp, WithTheActivePanelOffTheOtherBecomesActive) {
   Session s({}, Settings("LeftShowing=off\n"));
   EXPECT_EQ(s.Active(), kRightSide);
   EXPECT_EQ(BarRow(s, kRightSide), 1);
+}
+
+TEST(StartUp, TheCodePageIsTheOptionsOr850) {
+  {
+    Session s({}, Settings("CodePage=866\n"));
+    EXPECT_EQ(DefaultCodePage, 866);
+  }
+  Session s({}, Settings("CodePage=0\n"));
+  EXPECT_EQ(DefaultCodePage, 850);
+}
+
+TEST(StartUp, AnOddColumnIsLeftOnTheRight) {
+  Session s({}, Settings("Columns=101\n"));
+  EXPECT_EQ(s.Character(49, 0), U'╗');
+  EXPECT_EQ(s.Character(99, 0), U'╗');
+  EXPECT_EQ(s.Character(100, 0), U' ');
+}
+
+TEST(MainLoop, APassPaintsNoMoreThanItsActionAsksFor) {
+  Session s;
+  Console->PutString(70, 23, L"mark", 0x07);
+  Console->PutString(79, 24, L"X", 0x07);
+  s.Keys("Del");  // nothing to delete
+  EXPECT_EQ(s.Text(70, 23, 4), "mark");
+  s.Keys("a");  // the command line alone
+  EXPECT_EQ(s.Text(70, 23, 4), "    ");
+  EXPECT_EQ(s.Character(79, 24), U'X');
+  s.Keys("+Shift");
+  EXPECT_EQ(s.Character(79, 24), U'e');  // of "10MenuRe"
+}
+
+TEST(MainLoop, TheCursorIsAThinLineWhileTheProgramWaits) {
+  Session s;
+  EXPECT_EQ(Console->CursorSize(), 15);
 }
 
 TEST(Quit, AsksInTheColourOfMessages) {
