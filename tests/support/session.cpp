@@ -71,17 +71,19 @@ VirtualDisplay& Display() {
 
 std::string Utf8(const wchar_t* text) { return ToUtf8(text).Text(); }
 
+std::string ReadText(int x, int y, int width) {
+  CellString line;
+  Console->ReadRow(line, x, y, width, 1);
+  Westring text;
+  for (int i = 0; i < line.Length(); ++i) text += static_cast<wchar_t>(line[i].character);
+  return Utf8(text.Text());
+}
+
 std::string DumpScreen() {
   int columns = 0, rows = 0;
   Console->GetSize(columns, rows);
   std::string dump;
-  for (int y = 0; y < rows; ++y) {
-    CellString line;
-    Console->ReadRow(line, 0, y, columns, 1);
-    Westring text;
-    for (int x = 0; x < line.Length(); ++x) text += static_cast<wchar_t>(line[x].character);
-    dump += Utf8(text.Text()) + "\n";
-  }
+  for (int y = 0; y < rows; ++y) dump += ReadText(0, y, columns) + "\n";
   return dump;
 }
 
@@ -317,13 +319,7 @@ int Session::Columns() const {
 
 ScreenText Session::Row(int y) const { return Text(0, y, Columns()); }
 
-ScreenText Session::Text(int x, int y, int width) const {
-  CellString line;
-  Console->ReadRow(line, x, y, width, 1);
-  Westring text;
-  for (int i = 0; i < line.Length(); ++i) text += static_cast<wchar_t>(line[i].character);
-  return ScreenText(Utf8(text.Text()));
-}
+ScreenText Session::Text(int x, int y, int width) const { return ScreenText(ReadText(x, y, width)); }
 
 uint8_t Session::Attribute(int x, int y) const { return Console->SaveBlock(x, y, 1, 1)[0].attribute; }
 
