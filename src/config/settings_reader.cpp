@@ -82,7 +82,7 @@ void TakeOption(const Estring& key, const Estring& value) {
   if (const OptionRow* row = FindOption(key)) {
     if (row->store) SetOption(*row, value.Text());
   } else if (WildMatch("d[0-9]", key.Text())) {
-    StoredPaths[key[1] - '0'] = Westring(value.Text());
+    StoredDirectories[key[1] - '0'] = Westring(value.Text());
   } else {
     const Estring line = Estring::FromLong(lineCounter);
     Complain(L"Bad directive (" + Westring(key.Text()) + L") in orvane.ini, line " + Westring(line.Text()),
@@ -151,7 +151,7 @@ void BoundOptions() {
 void SetDefaultOptions() {
   for (int i = 0; i < kOptionCount; ++i)
     if (kOptionTable[i].store) SetOption(kOptionTable[i], kOptionTable[i].defaultText);
-  for (Westring& path : StoredPaths) path = L"";
+  for (Westring& path : StoredDirectories) path = L"";
 }
 
 void ReadSettingsLine(const char* line, int& section, bool reload) {

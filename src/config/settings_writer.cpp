@@ -87,8 +87,8 @@ void WriteOptions(LineWriter& out) {
   for (int i = 0; i < kOptionCount; ++i)
     if (kOptionTable[i].store) out.Value(kOptionTable[i].key, OptionText(kOptionTable[i]));
   out.Blank();
-  for (int i = 0; i < kStoredPaths; ++i)
-    if (!StoredPaths[i].IsEmpty()) out.Value(Estring::Format("d%d", i), ToUtf8(StoredPaths[i]));
+  for (int i = 0; i < kStoredDirectories; ++i)
+    if (!StoredDirectories[i].IsEmpty()) out.Value(Estring::Format("d%d", i), ToUtf8(StoredDirectories[i]));
 }
 
 int WriteSettings(StdFile& file) {

@@ -7,6 +7,7 @@
 #include "console/key_codes.h"
 #include "dialogs/button_row.h"
 #include "dialogs/win.h"
+#include "foundation/collections.h"
 #include "foundation/sync.h"
 
 class Dialog;
@@ -114,6 +115,28 @@ class Dialog : public Win {
   int AddExitKey(Key code);  // a key without a face that ends the dialog
   // *fraction, 0 to 1, is read at each Draw.
   int AddProgressIndicator(int x, int y, int width, const float* fraction);
+
+  // Controls. Each writes to the caller's variable while the user works, so a
+  // caller that wants Cancel to undo keeps a copy.
+  int AddCheckBox(int x, int y, bool startGroup, bool* value, const char* label, bool labelRight);
+  int AddCheckBox3S(int x, int y, bool startGroup, uint8_t* value, const char* label, bool labelRight);
+  // The buttons of a group share one value.
+  int AddRadioButton(int x, int y, bool startGroup, int32_t* value, int32_t myValue, const char* label);
+  // Without a limit: a negative maxLength. history: HistoryKind, or kNoHistory.
+  int AddStringField(int x, int y, bool startGroup, Westring* text, int width, int maxLength, int history);
+  // keepTyped leaves leading zeros as they were typed.
+  int AddIntegerField(int x, int y, bool startGroup, int32_t* value, int width, bool keepTyped, int history);
+  // Lists: the items are the caller's. *selection is the index of the row with
+  // the cursor. exitMode: ListExit, or the code with which Enter ends the dialog.
+  int AddListBoxString(int x, int y, bool startGroup, int width, int height, const char* const* strings,
+                       int n, int32_t* selection, int exitMode);
+  int AddListBoxEstring(int x, int y, bool startGroup, int width, int height, TObjectStore<Estring>* store,
+                        int32_t* selection, int exitMode);
+  int AddListBoxWestring(int x, int y, bool startGroup, int width, int height, WestringStore* store,
+                         int32_t* selection, int exitMode);
+  // attributes: one for each of the n strings, changed by the keys f, F, b, B.
+  int AddColourSelector(int x, int y, bool startGroup, int width, int height, const char* const* strings,
+                        uint8_t* attributes, int n, int32_t* selection, int exitMode);
 
   int Count() const { return count; }
   int Focus() const { return focus; }

@@ -4,10 +4,12 @@
 
 #include "config/settings_file.h"
 #include "config/values/options.h"
+#include "dialogs/help.h"
 #include "dialogs/prompt.h"
 #include "foundation/code_pages.h"
 #include "panels/panel.h"
 #include "shell/command_line.h"
+#include "shell/dialog_commands.h"
 #include "shell/dispatch.h"
 #include "shell/history.h"
 #include "shell/menu_commands.h"
@@ -44,8 +46,17 @@ int RunEscape(Shell& shell) {
 int RunAltBackslash(Shell& shell) { return shell.modifiers & kModAlt ? kRedrawNothing : GoToRoot(shell); }
 
 int RunReRead(Shell& shell) {
-  if (Options::CtrlRDriveChng || shell.bothHidden) return kRedrawNothing;
-  return ReRead(shell);
+  if (Options::CtrlRDriveChng) return RunMounts(shell, static_cast<int>(ActiveSide), false);
+  return shell.bothHidden ? kRedrawNothing : ReRead(shell);
+}
+
+int RunMountsOfActive(Shell& shell) {
+  return RunMounts(shell, static_cast<int>(ActiveSide), shell.key == kCtrlShiftM);
+}
+
+int RunHelp(Shell&) {
+  ShowHelp(kHelpMain);
+  return kRedrawNothing;
 }
 
 int RunSave(Shell&) {
@@ -100,10 +111,17 @@ int RunReReadSide(Shell&) {
   return ReReadSide(side);
 }
 
+template <int side>
+int RunFilterOf(Shell& shell) {
+  return RunFilter(shell, side);
+}
+
+template <int side>
+int RunMountsOf(Shell& shell) {
+  return RunMounts(shell, side, false);
+}
+
 constexpr CommandRow kCommands[] = {
-    {FKey(9), 0, nullptr},
-    {CtrlLetter('n'), 0, nullptr},
-    {ShiftFKey(10), 0, nullptr},
     {kGreyPlus, kPanelShown | kFilesPanel, nullptr},
     {kGreyMinus, kPanelShown | kFilesPanel, nullptr},
     {kGreyStar, kPanelShown | kFilesPanel, nullptr},
@@ -167,7 +185,7 @@ constexpr CommandRow kCommands[] = {
     {CtrlLetter('g'), kEndsSearch, GoToLinkTarget},
     {CtrlLetter('k'), 0, nullptr},
     {CtrlLetter('q'), 0, nullptr},
-    {CtrlLetter('w'), kPanelShown | kFilesPanel | kNoArchive, nullptr},
+    {CtrlLetter('w'), kPanelShown | kFilesPanel | kNoArchive, RunGuiWindow},
     {CtrlLetter('t'), 0, nullptr},
     {CtrlLetter('y'), 0, nullptr},
     {CtrlLetter('b'), 0, nullptr},
@@ -177,8 +195,8 @@ constexpr CommandRow kCommands[] = {
     {kCtrlPageUp, kEndsSearch, GoToParent},
     {CtrlDigit(9), kEndsSearch, GoToParent},
     {CtrlPadDigit(9), kEndsSearch, GoToParent},
-    {kCtrlM, 0, nullptr},
-    {kCtrlShiftM, 0, nullptr},
+    {kCtrlM, 0, RunMountsOfActive},
+    {kCtrlShiftM, 0, RunMountsOfActive},
     {kAltUp, kPanelShown, PreviousTagged},
     {kAltDown, kPanelShown, NextTagged},
     {kAltHome, kEndsSearch, GoToHome},
@@ -189,7 +207,7 @@ constexpr CommandRow kCommands[] = {
     {kCtrlShiftGreyMinus, 0, nullptr},
     {kAltGreyPlus, 0, nullptr},
     {kMenuRestoreSelection, 0, nullptr},
-    {FKey(1), 0, nullptr},
+    {FKey(1), 0, RunHelp},
     {FKey(2), 0, nullptr},
     {ShiftFKey(2), 0, nullptr},
     {FKey(3), 0, nullptr},
@@ -210,10 +228,10 @@ constexpr CommandRow kCommands[] = {
     {ShiftFKey(9), 0, RunSave},
     {kMenuSaveSetup, 0, RunSave},
     {FKey(10), 0, RunQuit},
-    {AltFKey(1), 0, nullptr},
-    {AltFKey(2), 0, nullptr},
-    {AltFKey(5), 0, nullptr},
-    {AltFKey(6), 0, nullptr},
+    {AltFKey(1), 0, RunMountsOf<0>},
+    {AltFKey(2), 0, RunMountsOf<1>},
+    {AltFKey(5), 0, RunStoredPaths},
+    {AltFKey(6), 0, RunMakeObjects},
     {AltFKey(7), 0, nullptr},
     {AltShiftFKey(7), 0, nullptr},
     {AltFKey(8), 0, nullptr},
@@ -255,16 +273,16 @@ constexpr CommandRow kCommands[] = {
     {kMenuRightTree, 0, nullptr},
     {kMenuLeftInfo, 0, RunInfo<0>},
     {kMenuRightInfo, 0, RunInfo<1>},
-    {kMenuLeftFilter, 0, nullptr},
-    {kMenuRightFilter, 0, nullptr},
+    {kMenuLeftFilter, 0, RunFilterOf<0>},
+    {kMenuRightFilter, 0, RunFilterOf<1>},
     {kMenuLeftReRead, 0, RunReReadSide<0>},
     {kMenuRightReRead, 0, RunReReadSide<1>},
     {kMenuFileDate, kNoArchive, nullptr},
     {kMenuEditAssociations, 0, nullptr},
     {kMenuEditUserMenu, 0, nullptr},
-    {kMenuConfiguration, 0, nullptr},
-    {kMenuColours, 0, nullptr},
-    {kMenuConfirmations, 0, nullptr},
+    {kMenuConfiguration, 0, RunConfiguration},
+    {kMenuColours, 0, RunColours},
+    {kMenuConfirmations, 0, RunConfirmations},
     {kMenuHidden, 0, ToggleHidden},
     {kMenuPathPrompt, 0, TogglePathPrompt},
     {kMenuFullScreen, 0, ToggleFullScreen},

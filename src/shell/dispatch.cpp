@@ -11,6 +11,14 @@
 
 namespace {
 
+// A command of the menu takes the place of the key that opened it.
+bool PullDownMenu(Shell& shell) {
+  if (shell.key != FKey(9) && shell.key != CtrlLetter('n') && shell.key != ShiftFKey(10)) return false;
+  shell.key = RunMenu(shell.menu, static_cast<int>(ActiveSide), shell.key == ShiftFKey(10));
+  shell.modifiers = 0;
+  return shell.key == 0;
+}
+
 // By option the grey star is no command of the list but a character.
 bool PlainStarKey(Shell& shell) {
   if (shell.key == kGreyStar && Options::DisableInvert) shell.key = L'*';
@@ -91,7 +99,7 @@ bool CommandKey(Shell& shell) {
 }
 
 using Layer = bool (*)(Shell&);
-constexpr Layer kLayers[] = {PlainStarKey, PanelKey, SortKey, TextKey, CommandKey};
+constexpr Layer kLayers[] = {PullDownMenu, PlainStarKey, PanelKey, SortKey, TextKey, CommandKey};
 
 }  // namespace
 

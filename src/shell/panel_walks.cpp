@@ -154,10 +154,10 @@ int StoredPathSide() { return ActivePanel().IsTree() ? ActiveSideNumber() ^ 1 : 
 }  // namespace
 
 int GoToStored(Shell&, int digit) {
-  if (StoredPaths[digit].IsEmpty()) return kRedrawNothing;
+  if (StoredDirectories[digit].IsEmpty()) return kRedrawNothing;
   const int side = StoredPathSide();
   TPanel& panel = Panels[side];
-  const Westring target = ExpandEnvironment(StoredPaths[digit]);
+  const Westring target = ExpandEnvironment(StoredDirectories[digit]);
   if (!ChangeDirectory(panel, target)) {
     Prompt(L"Invalid Directory", target, kPromptOk);
     return kRedrawAll;
@@ -169,7 +169,7 @@ int GoToStored(Shell&, int digit) {
 }
 
 int StorePath(Shell&, int digit) {
-  StoredPaths[digit] = Panels[StoredPathSide()].path;
+  StoredDirectories[digit] = Panels[StoredPathSide()].path;
   return kRedrawNothing;
 }
 

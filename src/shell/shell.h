@@ -5,6 +5,7 @@
 #include "console/key_codes.h"
 #include "foundation/strings.h"
 #include "panels/panel.h"
+#include "shell/menu.h"
 
 // What a command leaves to paint.
 enum Redraw {
@@ -45,4 +46,5 @@ struct Shell {
   int dragValue = 1;
 
   InfoMemory info;
+  MenuPlace menu;
 };

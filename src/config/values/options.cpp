@@ -86,7 +86,7 @@ bool WaitDOS{};
 
 }  // namespace Options
 
-Westring StoredPaths[kStoredPaths];
+Westring StoredDirectories[kStoredDirectories];
 Westring ProgramPath;
 Westring IniFileArgument;
 

@@ -88,8 +88,8 @@ extern bool WaitDOS;
 
 }  // namespace Options
 
-constexpr int kStoredPaths = 10;
-extern Westring StoredPaths[kStoredPaths];  // d0 to d9; empty ones are not written
+constexpr int kStoredDirectories = 10;
+extern Westring StoredDirectories[kStoredDirectories];  // d0 to d9; empty ones are not written
 
 extern Westring ProgramPath;      // argv[0], absolute; names the settings files
 extern Westring IniFileArgument;  // the settings file of the command line, absolute, or empty

@@ -139,8 +139,8 @@ TEST_F(SettingsReader, RowsWithoutAStoreAreKnown) {
 
 TEST_F(SettingsReader, StoredDirectoriesGoToTheirSlots) {
   Load("d3=/tmp\nD0=/x\nd9=\n");
-  EXPECT_STREQ(StoredPaths[3].Text(), L"/tmp");
-  EXPECT_STREQ(StoredPaths[0].Text(), L"/x");
+  EXPECT_STREQ(StoredDirectories[3].Text(), L"/tmp");
+  EXPECT_STREQ(StoredDirectories[0].Text(), L"/x");
   EXPECT_TRUE(prompts.empty());
   Load("d10=/x\nda=/x\nd=/x\n");
   EXPECT_EQ(prompts.size(), 3u);
@@ -240,7 +240,7 @@ TEST_F(SettingsReader, ReloadTakesTheStoresAndLeavesTheOptions) {
   Load("TabWidth=5\nd1=/two\nfoo=1\n*.c: 3\n[Associations]\n*.b: 2\n", true);
   EXPECT_EQ(Options::TabWidth, 4);
   EXPECT_TRUE(Options::AutoSave);
-  EXPECT_STREQ(StoredPaths[1].Text(), L"/one");
+  EXPECT_STREQ(StoredDirectories[1].Text(), L"/one");
   EXPECT_EQ(Pairs(Associations), (std::vector<std::string>{"*.c=3", "*.b=2"}));
   EXPECT_TRUE(prompts.empty());
 }

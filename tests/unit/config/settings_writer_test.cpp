@@ -31,7 +31,7 @@ std::string Everything() {
   std::string all;
   for (int i = 0; i < kOptionCount; ++i)
     if (kOptionTable[i].store) all += std::string(OptionText(kOptionTable[i]).Text()) + "\n";
-  for (const Westring& path : StoredPaths) all += std::string(ToUtf8(path).Text()) + "\n";
+  for (const Westring& path : StoredDirectories) all += std::string(ToUtf8(path).Text()) + "\n";
   for (const ArchiverRecord& archiver : Archivers)
     for (const ArchiverKey& key : kArchiverKeys) all += std::string(Trim(archiver.*key.field).Text()) + "\n";
   for (const AssociationSet* store : kAssociationStores)
@@ -48,8 +48,8 @@ std::string Everything() {
 
 TEST_F(SettingsWriter, WritesEverySectionInItsOrder) {
   WriteOldFile("*.a: one\n[Viewer Associations]\n*.b: two\n[Environment]\nORVANE_A=1\n");
-  StoredPaths[0] = L"/zero";
-  StoredPaths[7] = L"/seven";
+  StoredDirectories[0] = L"/zero";
+  StoredDirectories[7] = L"/seven";
   ASSERT_TRUE(SaveSettings());
   std::vector<std::string> expected = {"[Associations]",
                                        "*.a: one",
@@ -186,7 +186,7 @@ TEST_F(SettingsWriter, WhatTheFormatHoldsReadsBackTheSame) {
     Options::Left = value;
     Options::Background = value;
     Options::FontFamily = ToUtf8(value);
-    StoredPaths[2] = value;
+    StoredDirectories[2] = value;
     Options::CmdChar = '=';
     Options::StartupSide = '[';
     Options::MaxHist = -12345;
@@ -227,7 +227,7 @@ TEST_F(SettingsWriter, AnyValueLeavesAllOthersAloneAndSettlesAtOnce) {
     Options::Left = anyText();
     Options::Viewer = anyText();
     Options::FontFamily = ToUtf8(anyText());
-    StoredPaths[5] = anyText();
+    StoredDirectories[5] = anyText();
     const bool clock = Options::Clock;
     const std::string right = Text(Options::Right);
     ASSERT_TRUE(SaveSettings());
@@ -236,7 +236,7 @@ TEST_F(SettingsWriter, AnyValueLeavesAllOthersAloneAndSettlesAtOnce) {
     LoadSettings(false);
     EXPECT_EQ(Options::Clock, clock);
     EXPECT_EQ(Text(Options::Right), right);
-    EXPECT_EQ(Text(StoredPaths[4]), "");
+    EXPECT_EQ(Text(StoredDirectories[4]), "");
     EXPECT_EQ(FileColours.Count(), 0);
     const std::string once = Everything();
     ASSERT_TRUE(SaveSettings());
@@ -395,12 +395,12 @@ TEST_F(SettingsWriter, KillDuringASaveLeavesTheOldFileBesideTheScratch) {
 TEST_F(SettingsWriter, KillAtAnyMomentLeavesOneOfTheTwoFilesWhole) {
   const auto saveSmall = [] {
     Options::Left = L"";
-    for (Westring& path : StoredPaths) path = L"";
+    for (Westring& path : StoredDirectories) path = L"";
     return SaveSettings();
   };
   const auto saveLarge = [] {
     Options::Left = Westring::Replicate(L'x', 4000);
-    for (Westring& path : StoredPaths) path = Westring::Replicate(L'y', 4000);
+    for (Westring& path : StoredDirectories) path = Westring::Replicate(L'y', 4000);
     return SaveSettings();
   };
   ASSERT_TRUE(saveSmall());

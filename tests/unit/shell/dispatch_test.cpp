@@ -131,9 +131,9 @@ TEST_F(Dispatch, DigitsStoreThePathOfTheActivePanel) {
   ActiveSide = 1;
   Press(CtrlShiftDigit(4));
   Press(CtrlShiftPadDigit(5));
-  EXPECT_STREQ(StoredPaths[4].Text(), L"/right");
-  EXPECT_STREQ(StoredPaths[5].Text(), L"/right");
-  StoredPaths[4] = StoredPaths[5] = L"";
+  EXPECT_STREQ(StoredDirectories[4].Text(), L"/right");
+  EXPECT_STREQ(StoredDirectories[5].Text(), L"/right");
+  StoredDirectories[4] = StoredDirectories[5] = L"";
 }
 
 TEST_F(Dispatch, DigitsStoreNothingWhereNoFilesAreShown) {
@@ -143,7 +143,7 @@ TEST_F(Dispatch, DigitsStoreNothingWhereNoFilesAreShown) {
   panel.panelType = kPanelFiles;
   HideBoth();
   Press(CtrlShiftDigit(4));
-  EXPECT_TRUE(StoredPaths[4].IsEmpty());
+  EXPECT_TRUE(StoredDirectories[4].IsEmpty());
 }
 
 TEST_F(Dispatch, UnknownKeysDoNothing) {

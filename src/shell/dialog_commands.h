@@ -1,0 +1,14 @@
+// Commands that open a dialog. Each returns what is to be painted.
+#pragma once
+
+#include "shell/shell.h"
+
+int RunConfiguration(Shell& shell);
+int RunColours(Shell& shell);
+int RunConfirmations(Shell& shell);
+int RunFilter(Shell& shell, int side);
+
+int RunMounts(Shell& shell, int side, bool filterless);
+int RunStoredPaths(Shell& shell);
+int RunMakeObjects(Shell& shell);
+int RunGuiWindow(Shell& shell);
