@@ -11,13 +11,23 @@ class CheckBox : public DialogElement {
   int HandleEvent(const DialogEvent& event) override;
   void Activate() override;
   ElementType TypeId() const override { return kTypeCheckBox; }
+  void FocusChanged(bool hasFocus) override;
   void Draw() override;
 
  protected:
   virtual wchar_t Mark() const;
+  virtual void Toggle();
+  virtual void Turn(bool on);
 
   uint8_t* value;  // the caller's
-  Estring label;   // without the mark of the hot letter
+
+ private:
+  int LabelX() const;
+  bool IsOnBox(int column) const;
+  bool IsOnLabel(int column) const;
+  void HandleKey(Key key);
+
+  Estring label;  // without the mark of the hot letter
   bool labelRight;
 };
 
@@ -26,11 +36,12 @@ class CheckBox3S : public CheckBox {
  public:
   using CheckBox::CheckBox;
 
-  int HandleEvent(const DialogEvent& event) override;
   ElementType TypeId() const override { return kTypeCheckBox3S; }
 
  protected:
   wchar_t Mark() const override;
+  void Toggle() override;
+  void Turn(bool on) override;
 };
 
 // Selected by taking the focus, and in no other way.
@@ -47,5 +58,5 @@ class RadioButton : public DialogElement {
  private:
   int32_t* value;  // the group's
   int32_t myValue;
-  Estring label;
+  Estring label;  // without the mark of the hot letter
 };
