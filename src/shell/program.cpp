@@ -5,11 +5,13 @@
 #include <cstdio>
 #include <memory>
 
+#include "config/data_paths.h"
 #include "config/settings_file.h"
 #include "config/values/colours.h"
 #include "config/values/options.h"
 #include "console/console.h"
 #include "console/toolkit.h"
+#include "dialogs/help.h"
 #include "foundation/code_pages.h"
 #include "foundation/environment.h"
 #include "foundation/paths.h"
@@ -125,6 +127,7 @@ int RunWithConsole(int argc, char** argv) {
   BuildCaseTables();
   UpdateGeometry();
   ForceLeastSize();
+  LoadHelp(DataFilePath(kHelpFile));  // without it, help says that it is not loaded
   SetupLocale();
   if (!arguments.viewFile.IsEmpty()) return RefuseInternalTool("viewer");
   if (!arguments.editFile.IsEmpty()) return RefuseInternalTool("editor");
