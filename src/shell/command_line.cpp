@@ -6,24 +6,9 @@
 #include "config/values/colours.h"
 #include "config/values/options.h"
 #include "console/console.h"
-#include "foundation/fold.h"
 #include "foundation/paths.h"
+#include "foundation/words.h"
 #include "shell/shell_quote.h"
-
-int WordStart(const Westring& line, int cursor) {
-  int i = cursor;
-  if (i > 0) --i;
-  while (i > 0 && !IsWordChar(line[i])) --i;
-  while (i > 0 && IsWordChar(line[i - 1])) --i;
-  return i;
-}
-
-int WordEnd(const wchar_t* text, bool briefWordRight) {
-  int i = *text && !briefWordRight ? 1 : 0;
-  while (text[i] && IsWordChar(text[i]) != briefWordRight) ++i;
-  while (text[i] && IsWordChar(text[i]) == briefWordRight) ++i;
-  return i;
-}
 
 namespace {
 

@@ -3,10 +3,6 @@
 
 #include "shell/shell.h"
 
-// Ends of words from a place in the line, by the program's word characters.
-int WordStart(const Westring& line, int cursor);        // of the word left of cursor
-int WordEnd(const wchar_t* text, bool briefWordRight);  // how far Ctrl-Right goes
-
 void SetCommandLine(Shell& shell, const Westring& text);  // cursor to the end
 void EmptyCommandLine(Shell& shell);
 

@@ -1,7 +1,7 @@
-// Words of the command line, as the keys that go by words see them.
+// Moves by words, as the keys of lines and fields make them.
 #include <gtest/gtest.h>
 
-#include "shell/command_line.h"
+#include "foundation/words.h"
 
 TEST(WordStart, GoesToTheStartOfTheWordLeftOfTheCursor) {
   EXPECT_EQ(WordStart(L"copy file", 9), 5);
