@@ -5,15 +5,20 @@
 
 WestringStore DialogHistories[kHistoryKinds];
 
-void AddDialogHistory(const Westring& text, int kind) {
-  if (kind < 0 || kind >= kHistoryKinds || text.IsEmpty()) return;
-  WestringStore& history = DialogHistories[kind];
+void AddToHistory(WestringStore& history, const Westring& text) {
+  const Westring added = text;  // it may be one of those that go
   history.First();
   while (Westring* old = history.Current()) {
-    if (wcscmp(old->Text(), text.Text()) == 0)
+    if (wcscmp(old->Text(), added.Text()) == 0) {
       history.Remove();
-    else
+    } else {
       history.Next();
+    }
   }
-  history.Add(text);
+  history.Add(added);
+}
+
+void AddDialogHistory(const Westring& text, int kind) {
+  if (kind < 0 || kind >= kHistoryKinds || text.IsEmpty()) return;
+  AddToHistory(DialogHistories[kind], text);
 }

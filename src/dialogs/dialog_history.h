@@ -21,6 +21,9 @@ enum HistoryKind {
 
 extern WestringStore DialogHistories[kHistoryKinds];  // the newest last
 
-// Puts text at the end of its list; equal ones go. A kind without a list, or no
-// text, does nothing.
+// Puts text at the end of a list; equal ones go, letter by letter.
+void AddToHistory(WestringStore& history, const Westring& text);
+
+// The same for the list of a kind. A kind without a list, or no text, does
+// nothing.
 void AddDialogHistory(const Westring& text, int kind);

@@ -1,8 +1,7 @@
 // The command history and stepping through it on the command line.
 #include "shell/history.h"
 
-#include <cwchar>
-
+#include "dialogs/dialog_history.h"
 #include "foundation/fold.h"
 #include "shell/command_line.h"
 
@@ -10,15 +9,7 @@ WestringStore CommandHistory;
 
 void AddCommand(const Westring& text) {
   const Westring command = LTrim(text);
-  if (command.IsEmpty()) return;
-  CommandHistory.First();
-  while (Westring* old = CommandHistory.Current()) {
-    if (wcscmp(old->Text(), command.Text()) == 0)
-      CommandHistory.Remove();
-    else
-      CommandHistory.Next();
-  }
-  CommandHistory.Add(command);
+  if (!command.IsEmpty()) AddToHistory(CommandHistory, command);
 }
 
 namespace {
