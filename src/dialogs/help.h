@@ -10,11 +10,11 @@ enum HelpPage {
   kHelpConfiguration = 4,
   kHelpHistory = 5,
   kHelpConfirmations = 6,
-  kHelpMenus = 100,  // to 103; both panel menus have the first
+  kHelpMenus = 100,  // to 103, by menu; both panel menus have the first
 };
 
 // False if the file can't be read; ShowHelp then says so.
 bool LoadHelp(const Westring& file);
 
 // Shows a page until the user leaves it; the last page for one that is missing.
-void ShowHelp(int page);
+void ShowHelp(int number);
