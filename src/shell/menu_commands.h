@@ -5,9 +5,17 @@
 
 enum MenuCommand : Key {
   kMenuLeftInfo = 0x100000,
-  kMenuLeftName = 0x100001,  // to 0x100005 Unsorted
+  kMenuLeftName = 0x100001,  // the sort keys stand in a row
+  kMenuLeftExtension = 0x100002,
+  kMenuLeftTime = 0x100003,
+  kMenuLeftSize = 0x100004,
+  kMenuLeftUnsorted = 0x100005,
   kMenuLeftReverse = 0x100006,
-  kMenuRightName = 0x100007,  // to 0x10000B Unsorted
+  kMenuRightName = 0x100007,
+  kMenuRightExtension = 0x100008,
+  kMenuRightTime = 0x100009,
+  kMenuRightSize = 0x10000A,
+  kMenuRightUnsorted = 0x10000B,
   kMenuRightReverse = 0x10000C,
   kMenuLeftBrief = 0x10000D,
   kMenuRightBrief = 0x10000E,
