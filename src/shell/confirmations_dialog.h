@@ -1,0 +1,4 @@
+// The dialog that chooses which questions are asked.
+#pragma once
+
+void ConfirmationsDialog();
