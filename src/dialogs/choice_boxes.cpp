@@ -111,8 +111,12 @@ RadioButton::RadioButton(Dialog& dialog, int index, int x, int y, bool startGrou
                          int32_t myValue, const char* label)
     : DialogElement(dialog, index, x, y, startGroup), value(value), myValue(myValue), label(label) {
   dialog.TakeHotLetter(index, this->label);
-  // The focus enters the group here. A full dialog has not taken the button.
-  if (dialog.Element(index) == this && *value == myValue) dialog.Element(group)->groupCurrent = index;
+  if (dialog.Element(index) != this) return;  // the dialog is full
+  // The focus enters the group at the selected button. It would change the
+  // choice if Tab led to the first one.
+  DialogElement& head = *dialog.Element(group);
+  head.tabToFirst = false;
+  if (*value == myValue) head.groupCurrent = index;
 }
 
 void RadioButton::Draw() {
