@@ -3,6 +3,7 @@
 
 #include <sys/statvfs.h>
 
+#include <cerrno>
 #include <cstring>
 #include <cwchar>
 #include <memory>
@@ -13,7 +14,6 @@
 
 namespace {
 
-constexpr char kMountTable[] = "/etc/mtab";
 constexpr int kLineSize = 1024;
 
 bool IsOctal(char ch, char highest) { return ch >= '0' && ch <= highest; }
@@ -69,7 +69,10 @@ void SkipRest(StdFile& file, const char* line) {
 bool ReadMountTable(const char* table, CMountPointList& list, bool all) {
   list.Clear();
   StdFile file;
-  if (file.Open(table, kOpenRead) != 0) return false;
+  if (file.Open(table, kOpenRead) != 0) {
+    errno = file.Error();
+    return false;
+  }
   for (;;) {
     char line[kLineSize];
     file.ReadLine(line, kLineSize);
