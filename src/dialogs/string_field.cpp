@@ -98,7 +98,10 @@ bool StringField::UseMouse(const DialogEvent& event) {
   const bool isOnField = event.y == y && cell >= 0 && cell < width;
   const bool extends = event.type == kDialogLeftDrag || event.type == kDialogLeftRelease;
   if (!isOnField || !extends) hasSelection = false;
-  if (isOnArrow) OpenHistory();
+  if (isOnArrow) {
+    dialog.SetFocus(index);
+    OpenHistory();
+  }
   if (!isOnField) return isOnArrow;
   // Where the user saw it; taking the focus may scroll.
   const int place = std::min(Length(*text), scrollLeft + cell);
