@@ -11,7 +11,6 @@ namespace {
 
 constexpr uint8_t kLabel = 0x30, kGap = 0x07;
 constexpr uint32_t kNone = 0;
-constexpr int kWidths[] = {80, 100, 132, 250};
 
 class KeyBar : public testing::Test {
  protected:
@@ -40,6 +39,25 @@ Key KeyAt(int x, int columns, uint32_t modifiers = 0, int kind = kMouseLeftPress
   return BarKey(mouse, columns);
 }
 
+// One character a column: "#" for the colour of the command line.
+std::string GapsOf(int columns) {
+  const CellString row = BuildKeyBar(BarLabels(kNone), columns);
+  std::string gaps;
+  for (int x = 0; x < row.Length(); ++x)
+    gaps += row[x].attribute == kGap ? '#' : row[x].attribute == kLabel ? '.' : '?';
+  return gaps;
+}
+
+// One character a column: the digit of its key, 0 for F10.
+std::string KeysUnder(int columns) {
+  std::string keys;
+  for (int x = 0; x < columns; ++x) {
+    const int number = static_cast<int>(KeyAt(x, columns) - FKey(1)) + 1;
+    keys += number >= 1 && number <= 10 ? static_cast<char>('0' + number % 10) : '?';
+  }
+  return keys;
+}
+
 }  // namespace
 
 TEST_F(KeyBar, EachStateOfTheModifiersHasItsLabels) {
@@ -60,29 +78,25 @@ TEST_F(KeyBar, LabelsStandInCellsOfATenthOfTheScreen) {
 }
 
 TEST_F(KeyBar, TheRowIsAsLongAsTenWholeCells) {
-  for (int columns : kWidths) {
-    const int cell = columns / 10;
-    const std::string text = TextOf(BuildKeyBar(BarLabels(kModShift), columns));
-    EXPECT_EQ(static_cast<int>(text.size()), cell * 10) << columns;
-    for (int i = 0; i < kBarKeys; ++i) {
-      std::string label = BarLabels(kModShift)[i];
-      label.resize(static_cast<size_t>(cell), ' ');
-      EXPECT_EQ(text.substr(static_cast<size_t>(i * cell), static_cast<size_t>(cell)), label) << columns;
-    }
-  }
+  EXPECT_EQ(TextOf(BuildKeyBar(BarLabels(kModShift), 80)),
+            "1Manual 2MnMenu 3View.. 4Edit.. 5Copy   6Rename 7MkArch 8DelOne 9SavSet 10MenuRe");
+  EXPECT_EQ(TextOf(BuildKeyBar(BarLabels(kModShift), 89)).size(), 80u);
+  EXPECT_EQ(TextOf(BuildKeyBar(BarLabels(kModShift), 100)),
+            "1Manual   2MnMenu   3View..   4Edit..   5Copy     "
+            "6Rename   7MkArch   8DelOne   9SavSet   10MenuRe  ");
+  EXPECT_EQ(TextOf(BuildKeyBar(BarLabels(kModShift), 132)),
+            "1Manual      2MnMenu      3View..      4Edit..      5Copy        "
+            "6Rename      7MkArch      8DelOne      9SavSet      10MenuRe     ");
 }
 
 TEST_F(KeyBar, DigitsAndTheGapsBeforeThemAreInTheColourOfTheCommandLine) {
-  for (int columns : kWidths) {
-    const CellString row = BuildKeyBar(BarLabels(kNone), columns);
-    const int cell = columns / 10;
-    for (int x = 0; x < row.Length(); ++x) {
-      const bool digit = x % cell == 0;
-      const bool gap = x % cell == cell - 1 && x / cell < 9;
-      const bool secondDigitOfTen = x == 9 * cell + 1;
-      EXPECT_EQ(row[x].attribute, digit || gap || secondDigitOfTen ? kGap : kLabel) << columns << ' ' << x;
-    }
-  }
+  EXPECT_EQ(GapsOf(80), "#......##......##......##......##......##......##......##......##......###......");
+  EXPECT_EQ(GapsOf(100),
+            "#........##........##........##........##........#"
+            "#........##........##........##........###........");
+  EXPECT_EQ(GapsOf(132),
+            "#...........##...........##...........##...........##...........#"
+            "#...........##...........##...........##...........###...........");
 }
 
 TEST_F(KeyBar, ACellOfTheBarBeginsOneColumnLeftOfItsDigit) {
@@ -95,13 +109,16 @@ TEST_F(KeyBar, ACellOfTheBarBeginsOneColumnLeftOfItsDigit) {
 }
 
 TEST_F(KeyBar, EveryColumnUnderALabelGivesItsKey) {
-  for (int columns : kWidths) {
-    const int cell = columns / 10;
-    for (int x = 0; x < columns; ++x) {
-      const int number = std::min((x + 1) / cell, 9) + 1;
-      EXPECT_EQ(KeyAt(x, columns), FKey(number)) << columns << ' ' << x;
-    }
-  }
+  const std::string keys80 =
+      "11111112222222233333333444444445555555566666666777777778888888899999999000000000";
+  EXPECT_EQ(KeysUnder(80), keys80);
+  EXPECT_EQ(KeysUnder(89), keys80 + "000000000");
+  EXPECT_EQ(KeysUnder(100),
+            "1111111112222222222333333333344444444445555555555"
+            "666666666677777777778888888888999999999900000000000");
+  EXPECT_EQ(KeysUnder(132),
+            "1111111111112222222222222333333333333344444444444445555555555555"
+            "66666666666667777777777777888888888888899999999999990000000000000000");
 }
 
 TEST_F(KeyBar, WhatIsRightOfTheTenthCellBelongsToIt) {
