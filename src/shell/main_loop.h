@@ -3,8 +3,5 @@
 
 #include "shell/shell.h"
 
-// Percent of a cell that the cursor on the command line fills.
-constexpr int kLineCursorSize = 15;
-
 // Runs until a command sets shell.quit.
 void RunMainLoop(Shell& shell);

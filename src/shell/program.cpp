@@ -7,7 +7,6 @@
 
 #include "config/data_paths.h"
 #include "config/settings_file.h"
-#include "config/values/colours.h"
 #include "config/values/options.h"
 #include "console/console.h"
 #include "console/toolkit.h"
@@ -100,10 +99,7 @@ void ClosePanels(const Arguments& arguments) {
     Panels[side].archive.reset();
     if (Panels[side].visible) Panels[side].window.reset();
   }
-  Console->FillBlank(0, ScreenRows - 2, ScreenColumns, 2, Options::Colours[kColourCommandLine]);
-  Console->SetCursorSize(kLineCursorSize);
-  Console->SetTitle(Westring());
-  Console->SetCursor(0, ScreenRows - 1);
+  LeaveScreen();
   if (!arguments.exitScript.IsEmpty()) WriteExitScript(arguments.exitScript, scriptPath);
 }
 

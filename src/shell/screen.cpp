@@ -8,6 +8,7 @@
 #include "foundation/code_pages.h"
 #include "panels/columns.h"
 #include "panels/draw_panel.h"
+#include "panels/navigation.h"
 #include "panels/read_panel.h"
 #include "shell/clock.h"
 
@@ -91,6 +92,13 @@ bool ShowPanels(bool show) {
     }
   }
   return painted;
+}
+
+void LeaveScreen() {
+  Console->FillBlank(0, ScreenRows - 2, ScreenColumns, 2, Options::Colours[kColourCommandLine]);
+  Console->SetCursorSize(kLineCursorSize);
+  SetAppTitle(L"");
+  Console->SetCursor(0, ScreenRows - 1);
 }
 
 void UpdateSelectableRegion() {

@@ -3,6 +3,9 @@
 
 #include "shell/shell.h"
 
+// Percent of a cell that the cursor on the command line fills.
+constexpr int kLineCursorSize = 15;
+
 // Reads the console's size back and works out what follows from it.
 void UpdateGeometry();
 void ApplyScreenSize(int rows, int columns);
@@ -15,6 +18,10 @@ void HidePanel(TPanel& panel);
 // Puts the panels back over the console text, or takes them off. True if a
 // panel was painted anew, so that its cursor bar is gone.
 bool ShowPanels(bool show);
+
+// At the end: blanks the last two rows, takes the title away and puts the cursor on
+// the last row.
+void LeaveScreen();
 
 // Gives the mouse to the console text while no panel is shown.
 void UpdateSelectableRegion();
