@@ -139,6 +139,8 @@ void ActivateSide(int side) {
   ChangeProcessDirectory(Panels[side]);
 }
 
+void ForgetActiveSide() { titledSide = kNoSide; }
+
 void FollowPath(TPanel& panel) {
   CopyText(panel.lastPath, panel.path);
   if (&panel == &ActivePanel()) ChangeProcessDirectory(panel);

@@ -16,6 +16,8 @@ void GoUp(TPanel& panel);
 bool ChangeDirectory(TPanel& panel, const Westring& target);
 
 void ActivateSide(int side);
+// At the start: the next call of it changes the side, whatever was active before.
+void ForgetActiveSide();
 
 // lastPath becomes path, and the process's current directory goes with the
 // active panel.

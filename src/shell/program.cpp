@@ -103,10 +103,16 @@ void ClosePanels(const Arguments& arguments) {
   if (!arguments.exitScript.IsEmpty()) WriteExitScript(arguments.exitScript, scriptPath);
 }
 
-int RefuseInternalTool(const char* what) {
+void RefuseInternalTool(const char* what) {
+  fprintf(stderr, "orvane: the internal %s is not part of this version\n", what);
+}
+
+// Where both are asked for, the viewer comes first.
+int RunInternalTools(const Arguments& arguments) {
+  if (!arguments.viewFile.IsEmpty()) RefuseInternalTool("viewer");
+  if (!arguments.editFile.IsEmpty()) RefuseInternalTool("editor");
   Console->SetCursor(0, ScreenRows - 1);
   Console->SetCursorSize(kLineCursorSize);
-  fprintf(stderr, "orvane: the internal %s is not part of this version\n", what);
   return 1;
 }
 
@@ -125,8 +131,7 @@ int RunWithConsole(int argc, char** argv) {
   ForceLeastSize();
   LoadHelp(DataFilePath(kHelpFile));  // without it, help says that it is not loaded
   SetupLocale();
-  if (!arguments.viewFile.IsEmpty()) return RefuseInternalTool("viewer");
-  if (!arguments.editFile.IsEmpty()) return RefuseInternalTool("editor");
+  if (!arguments.viewFile.IsEmpty() || !arguments.editFile.IsEmpty()) return RunInternalTools(arguments);
 
   OpenPanels(arguments);
   Shell shell;
@@ -155,6 +160,7 @@ int RunOrvane(int argc, char** argv) {
   const auto panels = std::make_unique<TPanel[]>(2);
   Panels = panels.get();
   ActiveSide = 0;
+  ForgetActiveSide();
   ResetInput();
   TheSettingsHooks.applyScreenSize = ApplyScreenSize;
   TheSettingsHooks.collectPanelState = CollectPanelState;
