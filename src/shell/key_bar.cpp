@@ -36,6 +36,7 @@ CellString BuildKeyBar(const char* const* labels, int columns) {
   CellString row;
   row.attribute = Options::Colours[kColourMenuBar];
   row.SetLength(kBarKeys * cell);
+  if (cell == 0) return row;  // a screen too narrow for any key
   const uint8_t gap = Options::Colours[kColourCommandLine];
   for (int i = 0; i < kBarKeys; ++i) {
     const int start = i * cell;
