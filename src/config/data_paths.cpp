@@ -65,3 +65,5 @@ Westring DataFilePath(DataFile kind, bool shared) {
   const Westring directory = DirectoryOf(kind == kSyntaxFile && shared ? Place::Shared : row.place);
   return directory + row.front + (row.dot ? base : DropRight(base, 1)) + row.back;
 }
+
+Westring IconPath(const wchar_t* name) { return Westring(ORVANE_ICON_DIR) + name; }

@@ -17,5 +17,8 @@ enum DataFile {
 // user's own. Only that kind looks at it.
 Westring DataFilePath(DataFile kind, bool shared = false);
 
+// A file of the icon theme; name stands below the theme's directory.
+Westring IconPath(const wchar_t* name);
+
 // The directory of the user's settings, with its closing slash.
 Westring SettingsDirectory();

@@ -154,8 +154,8 @@ int RunOrvane(int argc, char** argv) {
   }
   Console = new CConsole;
   WestringStore icons;
-  icons.Add(L"/usr/share/icons/hicolor/16x16/apps/orvane.png");
-  icons.Add(L"/usr/share/icons/hicolor/scalable/apps/orvane.svg");
+  icons.Add(IconPath(L"16x16/apps/orvane.png"));
+  icons.Add(IconPath(L"scalable/apps/orvane.svg"));
   Console->SetIconList(icons);
   const auto panels = std::make_unique<TPanel[]>(2);
   Panels = panels.get();

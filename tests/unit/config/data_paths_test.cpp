@@ -66,3 +66,7 @@ TEST_F(DataPaths, HomeThatTheSettingsSetDoesNotMoveThem) {
   EXPECT_STREQ(Variables.Get("HOME"), "/elsewhere");
   EXPECT_EQ(Path(kSettingsFile), home.Path(".orvane/orvane.ini"));
 }
+
+TEST_F(DataPaths, IconsStandInTheirTheme) {
+  EXPECT_STREQ(ToUtf8(IconPath(L"16x16/apps/orvane.png")).Text(), ORVANE_ICON_DIR "16x16/apps/orvane.png");
+}
