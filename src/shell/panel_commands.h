@@ -13,7 +13,7 @@ int PageDown(Shell& shell);
 int GoLeft(Shell& shell);  // a column, or on the command line
 int GoRight(Shell& shell);
 int TagAndGoDown(Shell& shell);
-int PreviousTagged(Shell& shell);
+int PreviousTagged(Shell& shell);  // in a tree the directory beside
 int NextTagged(Shell& shell);
 int DropSearchCharacter(Shell& shell);
 

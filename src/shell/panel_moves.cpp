@@ -5,6 +5,7 @@
 #include "panels/draw_panel.h"
 #include "panels/navigation.h"
 #include "panels/tags.h"
+#include "panels/tree_row.h"
 #include "shell/command_line.h"
 #include "shell/history.h"
 #include "shell/panel_commands.h"
@@ -119,21 +120,38 @@ int TagAndGoDown(Shell& shell) {
 
 namespace {
 
-int GoToTagged(Shell& shell, int step) {
-  TPanel& panel = ActivePanel();
-  if (!panel.IsVisibleFiles()) return kRedrawNothing;
-  for (int i = shell.currentIndex + step; i >= 0 && i < panel.count; i += step) {
-    if (!panel.entries[i]->tagged) continue;
-    MoveCursor(panel, i - shell.currentIndex);
-    break;
+constexpr int kNoEntry = -1;
+
+int FindTagged(const TPanel& panel, int index, int step) {
+  for (int i = index + step; i >= 0 && i < panel.count; i += step)
+    if (panel.entries[i]->tagged) return i;
+  return kNoEntry;
+}
+
+// The next directory with the same parent.
+int FindSibling(const TPanel& panel, int index, int step) {
+  const int depth = TreeDepth(*panel.entries[index]);
+  for (int i = index + step; i >= 0 && i < panel.count; i += step) {
+    const int found = TreeDepth(*panel.entries[i]);
+    if (found == depth) return i;
+    if (found < depth) break;
   }
+  return kNoEntry;
+}
+
+int GoToRelated(Shell& shell, int step) {
+  TPanel& panel = ActivePanel();
+  if (!shell.currentEntry) return kRedrawNothing;
+  const int index = shell.currentIndex;
+  const int found = panel.IsTree() ? FindSibling(panel, index, step) : FindTagged(panel, index, step);
+  if (found != kNoEntry) MoveCursor(panel, found - index);
   return kRedrawNothing;
 }
 
 }  // namespace
 
-int PreviousTagged(Shell& shell) { return GoToTagged(shell, -1); }
-int NextTagged(Shell& shell) { return GoToTagged(shell, 1); }
+int PreviousTagged(Shell& shell) { return GoToRelated(shell, -1); }
+int NextTagged(Shell& shell) { return GoToRelated(shell, 1); }
 
 int DropSearchCharacter(Shell&) {
   TPanel& panel = ActivePanel();

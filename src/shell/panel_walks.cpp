@@ -12,6 +12,7 @@
 #include "panels/navigation.h"
 #include "panels/panel_path.h"
 #include "panels/read_panel.h"
+#include "panels/tree_row.h"
 #include "shell/command_line.h"
 #include "shell/history.h"
 #include "shell/panel_commands.h"
@@ -169,7 +170,9 @@ int GoToStored(Shell&, int digit) {
 }
 
 int StorePath(Shell&, int digit) {
-  StoredDirectories[digit] = Panels[StoredPathSide()].path;
+  const TPanel& panel = ActivePanel();
+  const Westring path = panel.IsTree() ? TreeRowPath(panel, panel.CurrentIndex()) : panel.path;
+  if (!path.IsEmpty()) StoredDirectories[digit] = path;
   return kRedrawNothing;
 }
 
@@ -188,7 +191,9 @@ int InsertName(Shell& shell) {
 
 int InsertFullPath(Shell& shell) {
   if (!shell.currentEntry || !ActivePanel().IsFiles()) return kRedrawNothing;
-  const Westring path = JoinPath(ActivePanel().path, shell.currentEntry->name);
+  const TPanel& panel = ActivePanel();
+  const Westring path = panel.IsTree() ? TreeRowPath(panel, shell.currentIndex)
+                                       : JoinPath(panel.path, shell.currentEntry->name);
   if (shell.key == kCtrlShiftF) {
     Console->SetClipboardText(path);
     return kRedrawNothing;

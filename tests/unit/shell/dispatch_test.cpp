@@ -136,6 +136,18 @@ TEST_F(Dispatch, DigitsStoreThePathOfTheActivePanel) {
   StoredDirectories[4] = StoredDirectories[5] = L"";
 }
 
+TEST_F(Dispatch, ATreeGivesThePathOfItsRow) {
+  SetTree();
+  CopyText(panels[1].path, L"/right");
+  Place(0, 2);
+  Press(CtrlShiftDigit(4));
+  EXPECT_STREQ(StoredDirectories[4].Text(), L"/a/b");
+  StoredDirectories[4] = L"";
+  SetLine(L"|");
+  Press(CtrlLetter('f'));
+  EXPECT_EQ(Line(), L"/a/b |");
+}
+
 TEST_F(Dispatch, DigitsStoreNothingWhereNoFilesAreShown) {
   CopyText(panel.path, L"/left");
   panel.panelType = kPanelInfo;

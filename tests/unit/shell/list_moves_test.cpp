@@ -166,6 +166,19 @@ TEST_F(ListMoves, TaggedEntriesAreFoundInBothDirections) {
   EXPECT_EQ(After(PreviousTagged), Position(3, 0));
 }
 
+TEST_F(ListMoves, InATreeTheDirectoriesBesideAreFoundInstead) {
+  SetTree();
+  EXPECT_EQ(After(NextTagged), Position(0, 0));  // the root stands alone
+  Place(0, 1);
+  EXPECT_EQ(After(NextTagged), Position(0, 3));  // past what is below /a
+  EXPECT_EQ(After(NextTagged), Position(0, 4));
+  EXPECT_EQ(After(NextTagged), Position(0, 4));
+  EXPECT_EQ(After(PreviousTagged), Position(0, 3));
+  Place(0, 2);
+  EXPECT_EQ(After(NextTagged), Position(0, 2));  // /c is above /a/b
+  EXPECT_EQ(After(PreviousTagged), Position(0, 2));
+}
+
 TEST_F(ListMoves, InsertTagsAndGoesDown) {
   SetList(kStyleFull, 5, 3);
   EXPECT_EQ(After(TagAndGoDown), Position(0, 1));

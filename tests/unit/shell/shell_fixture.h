@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cwchar>
 #include <string>
+#include <utility>
 
 #include "config/values/options.h"
 #include "panels/columns.h"
@@ -37,6 +38,19 @@ class ShellFixture : public testing::Test {
       swprintf(name, 16, L"f%03d", panel.count);
       panel.entries[panel.count] = NewEntry(name);
       ++panel.count;
+    }
+    TakeCurrent();
+  }
+
+  // A tree of "/", "/a", "/a/b", "/c" and "/d" in the left panel.
+  void SetTree() {
+    SetList(kStyleTree, 5, 0);
+    const std::pair<const wchar_t*, int> rows[] = {{L"/", 0}, {L"a", 1}, {L"b", 2}, {L"c", 1}, {L"d", 1}};
+    for (const auto& [name, depth] : rows) {
+      entry* const row = NewEntry(name);
+      row->attributes = kAttrDirectory;
+      row->sizeKnown = static_cast<uint8_t>(depth);
+      panel.entries[panel.count++] = row;
     }
     TakeCurrent();
   }
