@@ -141,8 +141,12 @@ int ReRead(Shell&) { return ReReadSide(ActiveSideNumber()); }
 
 int ToggleHidden(Shell& shell) {
   Options::Hidden = !Options::Hidden;
-  for (int side = 0; side < 2; ++side)
-    if (Panels[side].visible) Enter(side, L"", true, -1, 0);
+  for (int side = 0; side < 2; ++side) {
+    if (Panels[side].visible)
+      Enter(side, L"", true, -1, 0);
+    else
+      Panels[side].readPending = true;  // its listing was made under the old choice
+  }
   FollowPath(ActivePanel());  // the process stands in the panel read last
   shell.cursorDirty = true;
   return kRedrawNothing;

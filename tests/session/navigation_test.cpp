@@ -306,3 +306,11 @@ TEST(Hidden, CtrlHShowsAndHidesInBothPanels) {
   EXPECT_EQ(s.Names(kLeftSide), (Strings{"..", "a"}));
   EXPECT_EQ(BarRow(s, kLeftSide), 2);
 }
+
+TEST(Hidden, APanelThatWasOffMeanwhileComesBackInTheNewWay) {
+  Session s({{"right/.dot", ""}, {"right/a", ""}});
+  s.Keys("Ctrl-F2 Ctrl-H Ctrl-F2");
+  EXPECT_EQ(s.Names(kRightSide), (Strings{"..", ".dot", "a"}));
+  s.Keys("Ctrl-O Ctrl-H Ctrl-O");
+  EXPECT_EQ(s.Names(kRightSide), (Strings{"..", "a"}));
+}
