@@ -24,24 +24,6 @@ class FieldHistoryTest : public FieldTest {
   }
 };
 
-// ---- the store
-
-TEST(DialogHistory, TakesTextsAtItsEndAndEachOnce) {
-  DialogHistories[kHistoryLink].Clear();
-  for (const wchar_t* item : {L"a", L"b", L"A", L"a"}) AddDialogHistory(item, kHistoryLink);
-  EXPECT_EQ(History(kHistoryLink), (Strings{"b", "A", "a"}));
-  AddDialogHistory(*DialogHistories[kHistoryLink].Peek(0), kHistoryLink);
-  EXPECT_EQ(History(kHistoryLink), (Strings{"A", "a", "b"}));
-  DialogHistories[kHistoryLink].Clear();
-}
-
-TEST(DialogHistory, TakesNoEmptyTextAndKnowsNoOtherKinds) {
-  AddDialogHistory(L"", kHistoryLink);
-  EXPECT_EQ(History(kHistoryLink), Strings{});
-  for (const int kind : {-1, 12, int{kNoHistory}, 1000000}) AddDialogHistory(L"text", kind);
-  for (const WestringStore& history : DialogHistories) EXPECT_EQ(history.Count(), 0);
-}
-
 // ---- how it fills
 
 TEST_F(FieldHistoryTest, FillsAtTheEndOfItsDialog) {
@@ -145,7 +127,6 @@ TEST_F(FieldHistoryTest, AnEmptyListOpensAndChangesNothing) {
 TEST_F(FieldHistoryTest, WithoutAHistoryAltDownIsUsedAndDoesNothing) {
   AddField(L"text");
   dialog->AddExitKey(kAltDown);
-  const auto before = Snapshot();
   Keys("Alt-Down");
   Press("");
   EXPECT_EQ(Text(), "text");
