@@ -6,21 +6,24 @@
 
 #include "panels/panel.h"
 #include "session/main_screen.h"
+#include "shell/menu_commands.h"
 
 namespace {
 
 const char* const kScripts[] = {
-    "Up",           "Down",         "Left",         "Right",        "PgUp",         "PgDn",
-    "Home",         "End",          "Ins",          "Del",          "Backspace",    "Enter",
-    "Tab",          "Shift-Tab",    "Esc",          "Ctrl-O",       "Ctrl-P",       "Ctrl-U",
-    "Ctrl-L",       "Ctrl-R",       "Ctrl-H",       "Ctrl-F1",      "Ctrl-F2",      "Ctrl-F3",
-    "Ctrl-F6",      "Ctrl-F7",      "Ctrl-F8",      "Ctrl-E",       "Ctrl-X",       "Ctrl-Enter",
-    "Ctrl-f",       "Ctrl-Left",    "Ctrl-Right",   "Ctrl-[",       "Ctrl-]",       "Ctrl-\\",
-    "Ctrl--",       "Ctrl-Shift-'", "Ctrl-PgUp",    "Ctrl-PgDn",    "Ctrl-G",       "Ctrl-1",
-    "Ctrl-Shift-1", "Ctrl-9",       "Alt-Up",       "Alt-Down",     "Alt-Home",     "Alt-Right",
-    "Alt-Shift-F1", "Alt-Shift-F2", "Alt-Shift-F3", "Alt-Shift-F4", "Alt-Shift-F5", "Alt-F9",
-    "Alt-Shift-F9", "'ab cd'",      "F10 Esc",      "+Shift",       "-Shift",       "+Ctrl",
-    "-Ctrl",        "+Alt",         "-Alt",
+    "Up",           "Down",           "Left",         "Right",        "PgUp",
+    "PgDn",         "Home",           "End",          "Ins",          "Del",
+    "Backspace",    "Enter",          "Tab",          "Shift-Tab",    "Esc",
+    "Ctrl-O",       "Ctrl-P",         "Ctrl-U",       "Ctrl-L",       "Ctrl-R",
+    "Ctrl-H",       "Ctrl-F1",        "Ctrl-F2",      "Ctrl-F3",      "Ctrl-F6",
+    "Ctrl-F7",      "Ctrl-F8",        "Ctrl-E",       "Ctrl-X",       "Ctrl-Enter",
+    "Ctrl-f",       "Ctrl-Left",      "Ctrl-Right",   "Ctrl-[",       "Ctrl-]",
+    "Ctrl-\\",      "Ctrl--",         "Ctrl-Shift-'", "Ctrl-PgUp",    "Ctrl-PgDn",
+    "Ctrl-G",       "Ctrl-1",         "Ctrl-Shift-1", "Ctrl-9",       "Alt-Up",
+    "Alt-Down",     "Alt-Home",       "Alt-Right",    "Alt-Shift-F1", "Alt-Shift-F2",
+    "Alt-Shift-F3", "Alt-Shift-F4",   "Alt-Shift-F5", "Alt-F9",       "Alt-Shift-F9",
+    "'ab cd'",      "-Shift F10 Esc", "+Shift",       "-Shift",       "+Ctrl",
+    "-Ctrl",        "+Alt",           "-Alt",
 };
 
 // Styles, information, re-reads and toggles of the menus.
@@ -40,10 +43,11 @@ class AnyKeys : public testing::TestWithParam<unsigned> {
     } else if (what < 7) {
       s.Command(kCommands[Below(std::size(kCommands))]);
     } else {
-      // Not on the bar, whose keys lead anywhere.
+      // Not on the bar, whose keys lead anywhere, nor where the right button brings up the menus.
       const auto kind = static_cast<MouseKind>(Below(kMouseWheel + 1));
-      s.Mouse(kind, static_cast<int>(Below(s.Columns())), static_cast<int>(Below(s.Rows() - 1)), 0,
-              Below(2) ? 1 : -1);
+      const unsigned top = kind == kMouseRightPress ? 1 : 0;
+      s.Mouse(kind, static_cast<int>(Below(s.Columns())), static_cast<int>(top + Below(s.Rows() - 1 - top)),
+              0, Below(2) ? 1 : -1);
     }
   }
 
@@ -74,6 +78,23 @@ void ExpectOrder(const Session& s, SessionSide side) {
   ASSERT_EQ(CountBars(s, side), side == s.Active() ? 1 : 0);
 }
 
+// Every cell but those of the clock's row and of the bar, which follow the time and the modifiers.
+std::string Cells(const Session& s) {
+  std::string cells;
+  for (int y = 1; y < s.Rows() - 1; ++y) {
+    cells += s.Row(y).String();
+    for (int x = 0; x < s.Columns(); ++x) cells += static_cast<char>(s.Attribute(x, y));
+  }
+  return cells;
+}
+
+// What was painted piece by piece is what a full redraw paints.
+void ExpectNothingStale(Session& s) {
+  const std::string before = Cells(s);
+  for (int i = 0; i < 2; ++i) s.Command(kMenuThousandSep);  // each redraws both panels
+  ASSERT_EQ(Cells(s), before);
+}
+
 }  // namespace
 
 TEST_P(AnyKeys, LeaveTheScreenInOrder) {
@@ -88,6 +109,8 @@ TEST_P(AnyKeys, LeaveTheScreenInOrder) {
       ExpectOrder(s, side);
       if (HasFatalFailure()) FAIL() << "in step " << step << ", side " << side;
     }
+    ExpectNothingStale(s);
+    if (HasFatalFailure()) FAIL() << "in step " << step;
   }
 }
 
