@@ -27,13 +27,12 @@ MountColumns FitMountColumns(const CMountPointList& list, int room) {
     mountPoint.width = std::max(mountPoint.width, Length(mount.mountPoint));
     fileSystem.width = std::max(fileSystem.width, Length(mount.fileSystem));
   }
-  const auto fitted = [&] { return MountColumns{device.width, mountPoint.width, fileSystem.width}; };
-  while (fitted().Width() > room) {
+  const MountColumns wanted{device.width, mountPoint.width, fileSystem.width};
+  for (int excess = wanted.Width() - room; excess > 0; --excess) {
     Column& widest = *std::ranges::max_element(columns, {}, &Column::Spare);
-    if (widest.width == 0) break;
-    --widest.width;
+    if (widest.width > 0) --widest.width;
   }
-  return fitted();
+  return {device.width, mountPoint.width, fileSystem.width};
 }
 
 Westring MountRow(const TMountPoint& mount, const MountColumns& columns) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 #include "unit/scratch_directory.h"
 
 namespace {
@@ -30,8 +32,16 @@ TEST_F(Mounts, AreReadInTheOrderOfTheTable) {
   EXPECT_STREQ(list.Peek(2)->fileSystem.Text(), L"proc");
 }
 
-TEST_F(Mounts, ATableThatIsMissingIsTold) {
+TEST_F(Mounts, ATableThatIsMissingIsToldWithTheReason) {
+  Read("d /a e\n");
+  errno = 0;
   EXPECT_FALSE(ReadMountTable(scratch.Path("nothing").c_str(), list, true));
+  EXPECT_EQ(errno, ENOENT);
+  EXPECT_EQ(list.Count(), 0);
+}
+
+TEST_F(Mounts, AnEmptyTableIsNoFailure) {
+  EXPECT_TRUE(Read(""));
   EXPECT_EQ(list.Count(), 0);
 }
 
@@ -69,6 +79,16 @@ TEST_F(Mounts, WithoutAllTheFileSystemsWithoutBlocksAreLeftOut) {
   Read(table, false);
   ASSERT_EQ(list.Count(), 1);
   EXPECT_STREQ(list.Peek(0)->fileSystem.Text(), L"ext4");
+}
+
+TEST_F(Mounts, AMountThatIsGoneHasNoBlocks) {
+  Read("d " + scratch.Path("gone") + " ext4 rw 0 0\n", false);
+  EXPECT_EQ(list.Count(), 0);
+}
+
+TEST_F(Mounts, OnlyTheWholeNameOfTmpfsIsLeftOut) {
+  Read("d / tmpfs2 rw 0 0\nd / TMPFS rw 0 0\n", false);
+  EXPECT_EQ(list.Count(), 2);
 }
 
 TEST_F(Mounts, TheLongestMountPointThatHoldsThePathWins) {
