@@ -106,6 +106,14 @@ TEST_F(FieldTest, ANumberWiderThanItsFieldStaysUntilItIsTyped) {
   EXPECT_EQ(value, 196);
 }
 
+TEST_F(FieldTest, TheEndOfAWiderNumberShowsItsLastDigitWithRoomBehindIt) {
+  AddNumber(123456, 3);
+  PressAndSee("End", [&] {
+    EXPECT_EQ(ConsoleFixture::Text(kX, kY, 3), "6  ");
+    EXPECT_EQ(CursorColumn(), 1);
+  });
+}
+
 TEST_F(FieldTest, ASelectedNumberIsReplacedInAFullField) {
   AddNumber(1234, 4);
   Press("Home Shift-End 5");
