@@ -40,7 +40,7 @@ int ColourSelector::HandleEvent(const DialogEvent& event) {
   const ColourKey* key = FindColourKey(event);
   if (key == nullptr) return ListBoxString::HandleEvent(event);
   EndSearch();
-  Draw();
+  Settle();
   if (count > 0) attributes[top + row] = Step(attributes[top + row], *key);
   Draw();
   return 1;

@@ -43,6 +43,7 @@ class ListBoxBase : public DialogElement {
  protected:
   friend void ListSearch(Dialog& dialog, int i, const Westring& text);
 
+  void Settle();     // takes over a selection or a count that changed from outside
   void EndSearch();  // forgets what was typed
 
   int32_t width, height;  // cells
@@ -57,7 +58,6 @@ class ListBoxBase : public DialogElement {
  private:
   ListView View() const { return {count, height, top, row}; }
   void SetView(const ListView& view);
-  void Settle();         // takes over a selection or a count that changed from outside
   void TakeSelection();  // tells the caller what the cursor is on, and draws
   void DrawRow(int shownRow);
   int SetCount(int newCount);

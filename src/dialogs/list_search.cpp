@@ -61,6 +61,6 @@ void ListSearch(Dialog& dialog, int i, const Westring& text) {
   DialogEvent last;
   last.type = kDialogKey;
   last.code = static_cast<int32_t>(text[Length(text) - 1]);
-  list.HandleEvent(last);
+  dialog.SendEvent(i, last);  // a worker may be telling the list its length right now
   list.ShowSearch();
 }
