@@ -52,8 +52,6 @@ Westring TitleOf(const Westring& name) {
   return DefaultTitle(*last ? last : name.Text());
 }
 
-// ---- the box -------------------------------------------------------------------
-
 // What the box is about, and what is entered in it.
 struct ObjectBox {
   Westring caption;
@@ -85,8 +83,6 @@ bool Ask(ObjectBox& box) {
   dialog.AddOkCancel(-1, y, true);
   return dialog.Run() != kEscape;
 }
-
-// ---- the files -----------------------------------------------------------------
 
 // What is to become of launchers that are there already.
 struct Existing {

@@ -41,8 +41,6 @@ bool IsThere(const Westring& path) {
   return NormalisePath(path, CurrentDirectory(), absolute) && FileExists(absolute);
 }
 
-// ---- what ends -----------------------------------------------------------------
-
 void CollectEnded(int);
 
 // The handler is good for one signal, so that it takes no child's exit status from
@@ -69,8 +67,6 @@ void CollectEnded(int) {
   if (ended == 0) ArmReaper();
   errno = before;
 }
-
-// ---- in the child --------------------------------------------------------------
 
 // Also for a kernel that cannot do it at once.
 void CloseFrom(int first, int limit) {

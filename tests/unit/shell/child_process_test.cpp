@@ -134,8 +134,10 @@ TEST_F(FindProgramTest, RightsAreNotLookedAt) {
 
 TEST_F(FindProgramTest, EmptyPartsAreSkipped) {
   files.Write("tool", "");
+  files.Write("tmp", "");  // also there in the root
   Search("::");
   EXPECT_EQ(Found("tool"), "-");
+  EXPECT_EQ(Found("tmp"), "-");
   Search("::" + files.Path() + "::");
   EXPECT_EQ(Found("tool"), Path("tool"));
 }
