@@ -71,6 +71,17 @@ TEST_F(FieldTest, FollowsATextThatItsOwnerShortensOrLengthens) {
   EXPECT_EQ(Text(), "xyaz");
 }
 
+TEST_F(FieldTest, ASelectedTextThatItsOwnerShortensStaysScrolledUntilAKey) {
+  AddField(kThirty.c_str());
+  Keys("Right Right Shift-End");
+  Then([&] {
+    text = L"abcde";
+    dialog->Redraw(0);
+    EXPECT_EQ(Shown(), "          ");
+  });
+  PressAndSee("End", [&] { EXPECT_EQ(Shown(), "abcde     "); });
+}
+
 TEST_F(FieldTest, AKeyFindsATextThatItsOwnerEmptiedUnseen) {
   AddField(kThirty.c_str());
   Keys("End Shift-Left");
