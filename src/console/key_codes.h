@@ -52,6 +52,8 @@ enum : Key {
   kInsert = 0x10052, kShiftInsert = 0x30052, kCtrlInsert = 0x10092, kCtrlShiftInsert = 0x30092,
   kDelete = 0x10053, kShiftDelete = 0x30053, kCtrlDelete = 0x10093,
 
+  kF11 = 0x10085, kF12 = 0x10086,
+
   kBackspace = 0x10101,
   kCtrlI = 0x10102,
   kCtrlM = 0x10103,
