@@ -18,6 +18,7 @@ class CellGrid {
   int Rows() const { return rows; }
   CellRect Bounds() const { return {0, 0, columns - 1, rows - 1}; }
   const Cell* Row(int y) const { return &cells[Index(0, y)]; }
+  Cell* MutableRow(int y) { return &cells[Index(0, y)]; }  // whoever writes here tells what changed
   const Cell& At(int x, int y) const { return cells[Index(x, y)]; }
 
   CellRect PutString(int x, int y, const wchar_t* text, uint8_t attribute);

@@ -54,8 +54,19 @@ class CConsole {
   void BeginUpdate();
   void EndUpdate();
 
-  // The teletype: UTF-8 text at the cursor, with tab, CR, BS, LF and scrolling.
+  // UTF-8 text at the cursor. Goes to the terminal while one is attached;
+  // otherwise a teletype with tab, CR, BS, LF and scrolling.
   void WriteText(const char* bytes);
+  // A stretch of a child's output. The cells are right when this returns; the
+  // pixels follow with PaintTerminal, so that a flood is not painted line by line.
+  void WriteTerminal(const char* bytes, int n);
+  void PaintTerminal();
+
+  // From here on keys and text go to the master side of a pseudo-terminal, and
+  // what its child writes is to be handed to WriteTerminal. The descriptor stays
+  // the caller's.
+  void AttachTerminal(int masterFd);
+  void DetachTerminal();
   void SetDefaultAttribute(uint8_t attribute);  // of WriteText
 
   void SetTitle(const Westring& text);

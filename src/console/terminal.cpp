@@ -1,0 +1,250 @@
+// Text and control bytes of a child's output.
+#include "console/terminal.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+#include <tuple>
+
+#include "config/values/colours.h"
+#include "config/values/options.h"
+#include "console/scrollback.h"
+
+namespace {
+
+constexpr char kBell = 7, kBackspaceByte = 8, kTabByte = 9, kLineFeed = 10, kReturn = 13, kEscapeByte = 27;
+constexpr char kTitleEnd = '\x9C';
+constexpr int kMostTitleBytes = 4096;  // a title without an end must not swallow all that follows
+
+bool IsControl(char byte) { return static_cast<unsigned char>(byte) < 32; }
+bool IsAscii(char byte) { return static_cast<unsigned char>(byte) < 128; }
+bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+
+// Bytes of the UTF-8 sequence that a byte begins; 1 where it begins none.
+int SequenceLength(char lead) {
+  const auto byte = static_cast<unsigned char>(lead);
+  if (byte >= 0xF0 && byte < 0xF8) return 4;
+  if (byte >= 0xE0 && byte < 0xF0) return 3;
+  return byte >= 0xC0 && byte < 0xE0 ? 2 : 1;
+}
+
+// How many bytes at the end of text begin a character that goes on behind it.
+int UnfinishedBytes(const char* text, int n) {
+  for (int back = 1; back <= std::min(n, 3); ++back) {
+    const char byte = text[n - back];
+    if (!IsContinuation(byte)) return SequenceLength(byte) > back ? back : 0;
+  }
+  return 0;
+}
+
+// From 96 on, in the character set of lines and symbols.
+constexpr wchar_t kGraphics[] = {
+    0x25C6, 0x2592, 0x2409, 0x240C, 0x240D, 0x240A, 0x00B0, 0x00B1, 0x2424, 0x240B, 0x2518,
+    0x2510, 0x250C, 0x2514, 0x253C, 0x23BA, 0x23BB, 0x2500, 0x23BC, 0x23BD, 0x251C, 0x2524,
+    0x2534, 0x252C, 0x2502, 0x2264, 0x2265, 0x03C0, 0x2260, 0x00A3, 0x00B7,
+};
+constexpr int kFirstGraphic = 96;
+static_assert(std::size(kGraphics) == 126 - kFirstGraphic + 1);
+
+wchar_t GraphicCharacter(char byte) {
+  const auto code = static_cast<unsigned char>(byte);
+  if (code == kFirstGraphic - 1) return L' ';
+  return code >= kFirstGraphic && code <= 126 ? kGraphics[code - kFirstGraphic] : static_cast<wchar_t>(code);
+}
+
+}  // namespace
+
+CTerminal::CTerminal(TerminalScreen& screen, int masterFd)
+    : screen(screen),
+      grid(screen.Grid()),
+      masterFd(masterFd),
+      columns(grid.Columns()),
+      rows(grid.Rows()),
+      colours(Options::Colours[kColourCommandLine]),
+      scrollBottom(grid.Rows() - 1) {}
+
+CTerminal::~CTerminal() { LeaveAlternateScreen(); }
+
+void CTerminal::SendKey(Key code) {
+  const Estring bytes = KeySequence(code, applicationCursor);
+  const int length = code < 256 ? 1 : Length(bytes);  // the zero byte is a key too
+  if (length > 0) std::ignore = write(masterFd, bytes.Text(), static_cast<size_t>(length));
+}
+
+// ---- the stream ----------------------------------------------------------------
+
+void CTerminal::Write(const char* bytes, int n) {
+  screen.GetCursor(x, y);
+  x = std::clamp(x, 0, columns);
+  y = std::clamp(y, 0, rows - 1);
+  cursorSize = screen.CursorSize();
+  const char* const end = bytes + n;
+  while (bytes < end) {
+    switch (state) {
+      case State::Text:
+        bytes = TakeText(bytes, end);
+        break;
+      case State::Escape:
+        TakeEscape(*bytes++);
+        break;
+      case State::Charset:
+        TakeCharset(*bytes++);
+        break;
+      case State::Title:
+        TakeTitle(*bytes++);
+        break;
+      case State::Csi:
+        TakeCsi(*bytes++);
+        break;
+    }
+  }
+  screen.SetCursor(x, y);
+  screen.SetCursorSize(cursorSize);
+}
+
+// A stretch of text up to a control byte, or that byte.
+const char* CTerminal::TakeText(const char* from, const char* to) {
+  const char* const end = std::find_if(from, to, IsControl);
+  if (end > from) {
+    PutRun(from, static_cast<int>(end - from));
+    return end;
+  }
+  if (*end != kBell) PutPending();  // a bell may ring in the middle of a character
+  TakeControl(*end);
+  return end + 1;
+}
+
+void CTerminal::TakeControl(char byte) {
+  switch (byte) {
+    case kBell:
+      screen.Beep();
+      break;
+    case kBackspaceByte:
+      x = std::max(x - 1, 0);
+      break;
+    case kTabByte:
+      x = (x | 7) + 1;
+      if (x >= columns) {
+        LineFeed();
+        x = 0;
+      }
+      break;
+    case kLineFeed:
+      LineFeed();
+      break;
+    case kReturn:
+      x = 0;
+      break;
+    case kEscapeByte:
+      state = State::Escape;
+      break;
+    default:
+      break;
+  }
+}
+
+void CTerminal::TakeCharset(char byte) {
+  state = State::Text;
+  if (byte == '0') graphicsCharset = true;
+  if (byte == 'B') graphicsCharset = false;
+}
+
+void CTerminal::TakeTitle(char byte) {
+  if (byte == kBell || byte == kTitleEnd || ++titleBytes > kMostTitleBytes) state = State::Text;
+}
+
+// ---- text ----------------------------------------------------------------------
+
+void CTerminal::PutRun(const char* text, int n) {
+  if (graphicsCharset) {
+    for (int i = 0; i < n; ++i) {
+      const wchar_t graphic = GraphicCharacter(text[i]);
+      PutText(&graphic, 1);
+    }
+    return;
+  }
+  if (pending.IsEmpty() && std::all_of(text, text + n, IsAscii)) {
+    PutText(text, n);
+    return;
+  }
+  Estring run = pending;
+  run += Estring(text, n);
+  const int length = Length(run), kept = UnfinishedBytes(run.Text(), length);
+  pending = Right(run, kept);
+  PutDecoded(Left(run, length - kept));
+}
+
+// A character that something else came into the middle of.
+void CTerminal::PutPending() {
+  if (pending.IsEmpty()) return;
+  PutDecoded(pending);
+  pending = "";
+}
+
+void CTerminal::PutDecoded(const Estring& utf8) {
+  const Westring text(utf8.Text());
+  PutText(text.Text(), Length(text));
+}
+
+// Characters of either width, a row's worth at a time.
+template <class Char>
+void CTerminal::PutText(const Char* text, int n) {
+  const uint8_t attribute = colours.Attribute();
+  while (n > 0) {
+    if (x >= columns) WrapLine();
+    const int fit = std::min(n, columns - x);
+    if (insertMode) InsertBlanks(fit);
+    Cell* const cells = grid.MutableRow(y) + x;
+    for (int i = 0; i < fit; ++i) cells[i] = Cell{MapCharacter(text[i]), attribute};
+    screen.Changed({x, y, x + fit - 1, y});
+    lastCharacter = text[fit - 1];
+    x += fit;
+    text += fit;
+    n -= fit;
+  }
+}
+
+void CTerminal::PutRepeated(wchar_t character, int n) {
+  const Westring text = Westring::Replicate(character, n);
+  PutText(text.Text(), n);
+}
+
+// ---- moving down ---------------------------------------------------------------
+
+void CTerminal::LineFeed() {
+  if (y >= scrollBottom)
+    ScrollUp(1);
+  else
+    ++y;
+}
+
+// Looks at the screen's last row, not at the region's.
+void CTerminal::WrapLine() {
+  x = 0;
+  if (y + 1 >= rows)
+    ScrollUp(1);
+  else
+    ++y;
+}
+
+// The rows that are kept are the screen's first, wherever the region begins.
+void CTerminal::ScrollUp(int lines) {
+  lines = std::min(lines, rows);
+  if (lines < 1) return;
+  if (mainScreen == nullptr && Options::ConsoleScrollback) {
+    for (int i = 0; i < lines; ++i) ScrollBack.Append(grid.Row(i), columns);
+  }
+  Scroll(Region(), lines);
+}
+
+void CTerminal::ScrollDown(int lines) { Scroll(Region(), -std::clamp(lines, 0, rows)); }
+
+void CTerminal::Scroll(const CellRect& block, int lines) {
+  if (block.IsEmpty() || lines == 0) return;
+  const int height = block.bottom - block.top + 1;
+  lines = std::clamp(lines, -height, height);
+  grid.Scroll(block, lines, colours.Attribute());
+  screen.Scrolled(block, lines);
+}

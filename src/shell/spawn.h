@@ -1,0 +1,17 @@
+// Running a command: apart from us, on a pseudo-terminal, or inside the program.
+#pragma once
+
+#include "foundation/strings.h"
+
+// Returns the child's exit code; 0 for a detached start or a built-in; -1 if
+// there is no terminal to be had or the child was ended by a signal.
+int SpawnCommand(const Westring& command, int flags);
+
+// True if the dynamic loader lists libX11 for the program: it will open a window
+// of its own.
+bool LinksX11(const Westring& path);
+
+// Index of the first character that no backslash escapes, or -1.
+int FindUnescaped(const Westring& text, wchar_t character);
+// One level of backslashes removed.
+Westring Unescape(const Westring& text);
