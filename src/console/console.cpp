@@ -2,6 +2,7 @@
 #include "console/console.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "console/clipboard.h"
 #include "console/console_window.h"
@@ -124,6 +125,11 @@ class ConsoleTeletype : public TeletypeScreen {
 }  // namespace
 
 void CConsole::WriteText(const char* bytes) {
+  if (window->Terminal() != nullptr) {
+    WriteTerminal(bytes, static_cast<int>(strlen(bytes)));
+    PaintTerminal();
+    return;
+  }
   Westring text;
   text.FromUtf8(bytes);
   const int size = CursorSize();
@@ -135,6 +141,11 @@ void CConsole::WriteText(const char* bytes) {
   SetCursor(x, y);
   SetCursorSize(size);
 }
+
+void CConsole::WriteTerminal(const char* bytes, int n) { window->Terminal()->Write(bytes, n); }
+void CConsole::PaintTerminal() { window->Terminal()->Paint(); }
+void CConsole::AttachTerminal(int masterFd) { window->AttachTerminal(masterFd); }
+void CConsole::DetachTerminal() { window->DetachTerminal(); }
 
 void CConsole::SetDefaultAttribute(uint8_t attribute) { window->defaultAttribute = attribute; }
 
@@ -167,11 +178,7 @@ void CConsole::SetIconFromFile(const Westring& path) {
   SetIconList(paths);
 }
 
-void CConsole::Beep() {
-  ToolkitCall call;
-  gdk_beep();
-  gdk_display_flush(gdk_display_get_default());
-}
+void CConsole::Beep() { window->Ring(); }
 
 // ---- clipboard and selection -------------------------------------------------
 

@@ -47,6 +47,10 @@ void CConsoleWindow::HandleKey(GdkEventKey* event) {
 
 void CConsoleWindow::QueueKey(Key code, uint32_t modifiers, uint32_t hardware) {
   blink.Restart();
+  if (terminal != nullptr) {
+    terminal->SendKey(code);
+    return;
+  }
   events.Put(new TEvent{kEventKey, static_cast<int32_t>(code), static_cast<int32_t>(modifiers),
                         static_cast<int32_t>(hardware), 0, 0});
 }

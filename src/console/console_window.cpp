@@ -197,26 +197,32 @@ void CConsoleWindow::Scroll(const CellRect& block, int lines, uint8_t attribute)
   grid.Scroll(block, lines, attribute);
   batch.AddScrolled(block, lines);
 
-  const CellRect source = ScrollSource(block, lines), target = ScrollTarget(block, lines);
-  if (!source.IsEmpty()) {
-    const int width = painter.CellWidth(), height = painter.CellHeight();
-    area.CopyPicture(source.left * width, source.top * height, target.left * width, target.top * height,
-                     (source.right - source.left + 1) * width, (source.bottom - source.top + 1) * height);
-    area.queue_draw_area(target.left * width, target.top * height, (target.right - target.left + 1) * width,
-                         (target.bottom - target.top + 1) * height);
-  }
+  MovePicture(block, lines);
   Repaint(ScrollVacated(block, lines));
   ++drawCount;
-
-  // The selection and the cursor stay where they are on the screen.
-  CellRect selected = Intersection(selection.Selected(), block);
-  if (!selected.IsEmpty()) {
-    Repaint(selected);
-    selected.top -= lines;
-    selected.bottom -= lines;
-    Repaint(Intersection(selected, block));
-  }
+  RepaintMovedSelection(block, lines);
   if (IsCursorIn(block) && size > 0) DrawCursorCell();
+}
+
+// The rows that stay in a block, on the picture and in the window.
+void CConsoleWindow::MovePicture(const CellRect& block, int lines) {
+  const CellRect source = ScrollSource(block, lines), target = ScrollTarget(block, lines);
+  if (source.IsEmpty()) return;
+  const int width = painter.CellWidth(), height = painter.CellHeight();
+  area.CopyPicture(source.left * width, source.top * height, target.left * width, target.top * height,
+                   (source.right - source.left + 1) * width, (source.bottom - source.top + 1) * height);
+  area.queue_draw_area(target.left * width, target.top * height, (target.right - target.left + 1) * width,
+                       (target.bottom - target.top + 1) * height);
+}
+
+// The selection stays where it is on the screen, but its picture went along.
+void CConsoleWindow::RepaintMovedSelection(const CellRect& block, int lines) {
+  CellRect selected = Intersection(selection.Selected(), block);
+  if (selected.IsEmpty()) return;
+  Repaint(selected);
+  selected.top -= lines;
+  selected.bottom -= lines;
+  Repaint(Intersection(selected, block));
 }
 
 void CConsoleWindow::SetSelectableRegion(const CellRect& region) {
@@ -225,4 +231,46 @@ void CConsoleWindow::SetSelectableRegion(const CellRect& region) {
   selection.Clear();
   selection.SetRegion(region);
   Repaint(selected);
+}
+
+// ---- the terminal of a child ---------------------------------------------------
+
+void CConsoleWindow::AttachTerminal(int masterFd) {
+  auto fresh = std::make_unique<AttachedTerminal>(*this, masterFd);
+  ToolkitLock lock;
+  terminal = std::move(fresh);
+}
+
+// The old screen, where the child left another one, comes back with its end.
+void CConsoleWindow::DetachTerminal() {
+  std::unique_ptr<AttachedTerminal> old;
+  {
+    ToolkitLock lock;
+    old = std::move(terminal);
+  }
+  old.reset();
+  Invalidate(grid.Bounds());
+}
+
+void CConsoleWindow::PlaceCursor(int x, int y) {
+  blink.Restart();
+  ToolkitLock lock;
+  cursorX = x;
+  cursorY = y;
+}
+
+void CConsoleWindow::Paint(const TerminalDamage& damage) {
+  ToolkitLock lock;
+  const TerminalDamage::Move& move = damage.OwedMove();
+  if (move.lines != 0) MovePicture(move.block, move.lines);
+  for (const CellRect& block : damage.Blocks()) Repaint(block);
+  if (move.lines != 0) RepaintMovedSelection(move.block, move.lines);
+  DrawCursorCell();
+  ++drawCount;
+}
+
+void CConsoleWindow::Ring() {
+  ToolkitCall call;
+  gdk_beep();
+  gdk_display_flush(gdk_display_get_default());
 }

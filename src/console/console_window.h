@@ -10,6 +10,7 @@
 #include <memory>
 #include <thread>
 
+#include "console/attached_terminal.h"
 #include "console/blink_thread.h"
 #include "console/cell_grid.h"
 #include "console/cell_painter.h"
@@ -18,8 +19,6 @@
 #include "console/screen_size.h"
 #include "console/selection.h"
 #include "console/update_batch.h"
-
-class CTerminal;
 
 struct CairoRelease {
   void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
@@ -63,6 +62,16 @@ class CConsoleWindow : public Gtk::Window {
   // Application: moves the rows of a block, cells and picture.
   void Scroll(const CellRect& block, int lines, uint8_t attribute);
   void SetSelectableRegion(const CellRect& region);
+  // Application: from here on keys go to the terminal; and the end of that.
+  void AttachTerminal(int masterFd);
+  void DetachTerminal();
+  AttachedTerminal* Terminal() const { return terminal.get(); }
+
+  // Application, for the terminal: the cursor's place without painting it, all
+  // that a terminal has changed, and the bell.
+  void PlaceCursor(int x, int y);
+  void Paint(const TerminalDamage& damage);
+  void Ring();
 
   // The screen, for CConsole. The application alone writes it, but for the
   // selection, which is changed and read under the lock; the cells have none,
@@ -88,6 +97,8 @@ class CConsoleWindow : public Gtk::Window {
   void DrawCells(const CellRect& block);
   void DrawCellRow(cairo_t* cairo, const CellRect& block, int y);
   void Repaint(const CellRect& block);
+  void MovePicture(const CellRect& block, int lines);
+  void RepaintMovedSelection(const CellRect& block, int lines);
   void DrawCursorCell() { Repaint({cursorX, cursorY, cursorX, cursorY}); }
   bool IsCursorIn(const CellRect& block) const;
   // Cells of the window's pixels, cut towards zero.
@@ -114,7 +125,7 @@ class CConsoleWindow : public Gtk::Window {
   CConsoleDrawingArea area;
   CellPainter painter;
   std::unique_ptr<GtkIMContext, ObjectRelease> inputMethod;
-  CTerminal* terminal = nullptr;  // takes keys and text while a child runs
+  std::unique_ptr<AttachedTerminal> terminal;  // while a child runs; changed under the lock
   BlinkThread blink;
   std::thread gui;
   std::vector<Cell> rowInWork;

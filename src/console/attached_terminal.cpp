@@ -1,0 +1,40 @@
+// The cells, the cursor and the bell of the window for a terminal.
+#include "console/attached_terminal.h"
+
+#include "console/console_window.h"
+#include "console/toolkit_lock.h"
+
+AttachedTerminal::AttachedTerminal(CConsoleWindow& window, int masterFd)
+    : window(window), damage(window.grid.Columns(), window.grid.Rows()), terminal(*this, masterFd) {}
+
+void AttachedTerminal::Paint() {
+  if (damage.IsEmpty()) return;
+  window.Paint(damage);
+  damage.Clear();
+}
+
+CellGrid& AttachedTerminal::Grid() { return window.grid; }
+
+void AttachedTerminal::GetCursor(int& x, int& y) const {
+  x = window.cursorX;
+  y = window.cursorY;
+}
+
+// The cursor's picture moves with the rows it stands on, so its cell is noted
+// wherever the cursor has been: the blinking may have drawn it there.
+void AttachedTerminal::SetCursor(int x, int y) {
+  if (x == window.cursorX && y == window.cursorY) return;
+  damage.Changed({window.cursorX, window.cursorY, window.cursorX, window.cursorY});
+  window.PlaceCursor(x, y);
+  damage.Changed({x, y, x, y});
+}
+
+int AttachedTerminal::CursorSize() const { return window.cursorSize; }
+
+void AttachedTerminal::SetCursorSize(int percent) {
+  if (percent == window.cursorSize) return;
+  window.cursorSize = percent;
+  damage.Changed({window.cursorX, window.cursorY, window.cursorX, window.cursorY});
+}
+
+void AttachedTerminal::Beep() { window.Ring(); }

@@ -1,0 +1,32 @@
+// A terminal on the console's window: it writes the cells as output comes, and
+// paints when told to.
+#pragma once
+
+#include "console/terminal.h"
+#include "console/terminal_damage.h"
+
+class CConsoleWindow;
+
+class AttachedTerminal : public TerminalScreen {
+ public:
+  AttachedTerminal(CConsoleWindow& window, int masterFd);
+
+  void Write(const char* bytes, int n) { terminal.Write(bytes, n); }
+  // From the GUI thread.
+  void SendKey(Key code) { terminal.SendKey(code); }
+  void Paint();
+
+  CellGrid& Grid() override;
+  void GetCursor(int& x, int& y) const override;
+  void SetCursor(int x, int y) override;
+  int CursorSize() const override;
+  void SetCursorSize(int percent) override;
+  void Beep() override;
+  void Changed(const CellRect& block) override { damage.Changed(block); }
+  void Scrolled(const CellRect& block, int lines) override { damage.Scrolled(block, lines); }
+
+ private:
+  CConsoleWindow& window;
+  TerminalDamage damage;
+  CTerminal terminal;
+};
