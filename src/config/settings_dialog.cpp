@@ -1,8 +1,5 @@
-// The Configuration dialog: one table for each kind of control, and the loop
-// that shows help.
+// The Configuration dialog: one table for each kind of control.
 #include "config/settings_dialog.h"
-
-#include <iterator>
 
 #include "config/option_snapshot.h"
 #include "config/values/colours.h"
@@ -100,10 +97,8 @@ void AddNumbers(Dialog& dialog) {
 
 void AddTimeMode(Dialog& dialog, int& timeMode) {
   dialog.PrintBytes(kRightColumn, kTimeModeRow, "Time Mode");
-  const int first = dialog.AddRadioButton(kRightColumn, kTimeModeRow + 1, true, &timeMode, 12, "_12 HR");
+  dialog.AddRadioButton(kRightColumn, kTimeModeRow + 1, true, &timeMode, 12, "_12 HR");
   dialog.AddRadioButton(kRightColumn, kTimeModeRow + 2, false, &timeMode, 24, "_24 HR");
-  // Who only passes by with Tab must not select it.
-  dialog.Element(first)->tabToFirst = false;
 }
 
 int RunDialog(int& timeMode) {
@@ -114,9 +109,7 @@ int RunDialog(int& timeMode) {
   AddNumbers(dialog);
   AddTimeMode(dialog, timeMode);
   dialog.AddButtons(-1, kButtonRow, true, kButtons);
-  int result = dialog.Run();
-  for (; result == static_cast<int>(FKey(1)); result = dialog.Run()) ShowHelp(kHelpConfiguration);
-  return result;
+  return RunWithHelp(dialog, kHelpConfiguration);
 }
 
 }  // namespace

@@ -49,3 +49,11 @@ void ShowHelp(int number) {
     if (number != kHelpOnHelp) ShowHelp(kHelpOnHelp);
   }
 }
+
+int RunWithHelp(Dialog& dialog, int page) {
+  for (;;) {
+    const int result = dialog.Run();
+    if (result != static_cast<int>(FKey(1))) return result;
+    ShowHelp(page);
+  }
+}

@@ -2,6 +2,7 @@
 // window that shows one.
 #pragma once
 
+#include "dialogs/dialog.h"
 #include "foundation/strings.h"
 
 enum HelpPage {
@@ -18,3 +19,7 @@ bool LoadHelp(const Westring& file);
 
 // Shows a page until the user leaves it; the last page for one that is missing.
 void ShowHelp(int number);
+
+// Runs a dialog with a key or button for F1: that shows the page, and the dialog
+// goes on as it was. Returns any other result.
+int RunWithHelp(Dialog& dialog, int page);

@@ -38,9 +38,7 @@ void ConfirmationsDialog() {
     dialog.AddCheckBox(kColumn, kFirstRow + i * kRowsOfQuestion, i == 0, &asks[i], kQuestions[i], true);
   }
   dialog.AddButtons(-1, kButtonRow, true, kButtons);
-  int result = dialog.Run();
-  for (; result == static_cast<int>(FKey(1)); result = dialog.Run()) ShowHelp(kHelpConfirmations);
-  if (result == static_cast<int>(kEscape)) return;
+  if (RunWithHelp(dialog, kHelpConfirmations) == static_cast<int>(kEscape)) return;
   for (int i = 0; i < kQuestionCount; ++i) spared = asks[i] ? spared & ~(1u << i) : spared | 1u << i;
   Options::Confirmations = static_cast<int>(spared);
 }
