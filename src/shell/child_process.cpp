@@ -92,6 +92,8 @@ int DescriptorLimit() {
 
 }  // namespace
 
+void CloseInherited() { CloseFrom(kFirstOwnDescriptor, DescriptorLimit()); }
+
 bool FindProgram(const Westring& name, Westring& fullPath) {
   if (name.IsEmpty()) return false;
   if (Find(name, L'/') >= 0 && IsThere(name)) {
@@ -163,14 +165,13 @@ void ExecShell(const Westring& command) { ShellCall(command).Execute(); }
 
 bool StartDetached(const Westring& command) {
   const ShellCall call(command);
-  const int limit = DescriptorLimit();
   const pid_t child = fork();
   if (child < 0) return false;
   if (child == 0) {
     if (fork() != 0) _exit(0);
     setsid();
     LeaveTerminal();
-    CloseFrom(kFirstOwnDescriptor, limit);
+    CloseInherited();
     call.Execute();
   }
   // Behind the fork: a signal of an earlier child could have used it up before.

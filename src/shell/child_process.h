@@ -32,6 +32,9 @@ class ShellCall {
   bool hasShell = false;
 };
 
+// In a child: closes all descriptors but the three of input and output.
+void CloseInherited();
+
 // In a child: gives it our environment and becomes the shell that runs command.
 [[noreturn]] void ExecShell(const Westring& command);
 

@@ -11,7 +11,24 @@ int SpawnCommand(const Westring& command, int flags);
 // of its own.
 bool LinksX11(const Westring& path);
 
+// What a command line asks for.
+struct CommandWords {
+  bool forceTerminal = false;  // "#" in front
+  bool background = false;     // "&" behind
+  Westring command;            // for the shell, without those two
+  Westring program;            // its first word
+  Westring arguments;          // what follows it
+};
+CommandWords SplitCommand(const Westring& text);
+
 // Index of the first character that no backslash escapes, or -1.
 int FindUnescaped(const Westring& text, wchar_t character);
 // One level of backslashes removed.
 Westring Unescape(const Westring& text);
+
+// The commands "$view" and "$edit"; null where there is no viewer or editor yet.
+struct BuiltInCommands {
+  void (*view)(const Westring& file) = nullptr;
+  void (*edit)(const Westring& file) = nullptr;
+};
+extern BuiltInCommands TheBuiltIns;

@@ -1,0 +1,49 @@
+// The first word of a command line. The shell reads the line itself; we only
+// have to know which program it begins with.
+#include <algorithm>
+
+#include "shell/spawn.h"
+
+int FindUnescaped(const Westring& text, wchar_t character) {
+  for (int i = 0; text[i] != 0; ++i) {
+    if (text[i] == character) return i;
+    if (text[i] == L'\\' && text[i + 1] != 0) ++i;
+  }
+  return -1;
+}
+
+Westring Unescape(const Westring& text) {
+  Westring plain;
+  for (const wchar_t* p = text.Text(); *p; ++p) {
+    if (*p == L'\\' && p[1]) ++p;
+    plain += *p;
+  }
+  return plain;
+}
+
+namespace {
+
+// Of two places, -1 for none, the first one.
+int FirstOf(int a, int b) { return a < 0 || b < 0 ? std::max(a, b) : std::min(a, b); }
+
+}  // namespace
+
+CommandWords SplitCommand(const Westring& text) {
+  CommandWords words;
+  words.command = text;
+  const int length = Length(text);
+  if (text[0] == L'#') {
+    words.forceTerminal = true;
+    words.command = Mid(text, 1);
+  } else if (length > 0 && text[length - 1] == L'&') {
+    words.background = true;
+    words.command = RTrim(DropRight(text, 1));
+  }
+  words.program = Unescape(words.command);
+  const int split = FirstOf(FindUnescaped(words.command, L' '), FindUnescaped(words.command, L'|'));
+  if (split > 0) {
+    words.program = Unescape(Left(words.command, split));
+    words.arguments = Trim(Mid(words.command, split + 1));
+  }
+  return words;
+}
