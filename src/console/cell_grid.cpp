@@ -59,7 +59,9 @@ CellRect ScrollVacated(const CellRect& block, int lines) {
 void CellGrid::Reset(int newColumns, int newRows) {
   columns = newColumns;
   rows = newRows;
-  cells.assign(Index(0, rows), kBlank);
+  cells.assign(static_cast<size_t>(columns) * rows, kBlank);
+  rowStarts.resize(rows);
+  for (int y = 0; y < rows; ++y) rowStarts[y] = static_cast<size_t>(y) * columns;
 }
 
 template <class Change>
@@ -148,14 +150,27 @@ void CellGrid::ReadRow(CellString& target, int x, int y, int width, int height) 
 }
 
 void CellGrid::Scroll(const CellRect& block, int lines, uint8_t attribute) {
+  MoveRows(block, lines);
+  const CellRect vacated = ScrollVacated(block, lines);
+  for (int y = vacated.top; y <= vacated.bottom; ++y) {
+    std::fill(MutableRow(y) + block.left, MutableRow(y) + block.right + 1, Cell{' ', attribute});
+  }
+}
+
+// A terminal scrolls for each line of a flood: rows of full width are turned
+// round without touching their cells.
+void CellGrid::MoveRows(const CellRect& block, int lines) {
   const CellRect source = ScrollSource(block, lines), target = ScrollTarget(block, lines);
+  if (source.IsEmpty()) return;
+  if (block.left == 0 && block.right == columns - 1) {
+    const auto first = rowStarts.begin() + block.top, last = rowStarts.begin() + block.bottom + 1;
+    std::rotate(first, lines > 0 ? first + lines : last + lines, last);
+    return;
+  }
   const int height = source.bottom - source.top + 1;
   for (int i = 0; i < height; ++i) {
     const int row = lines > 0 ? i : height - 1 - i;  // never over rows still to be moved
     std::copy_n(Row(source.top + row) + block.left, block.right - block.left + 1,
-                &cells[Index(block.left, target.top + row)]);
+                MutableRow(target.top + row) + block.left);
   }
-  const CellRect vacated = ScrollVacated(block, lines);
-  FillBlank(vacated.left, vacated.top, vacated.right - vacated.left + 1, vacated.bottom - vacated.top + 1,
-            attribute);
 }

@@ -34,16 +34,19 @@ class CellGrid {
   void ReadRow(CellString& target, int x, int y, int width, int height) const;
 
   // Moves the rows of a block by lines, downwards if negative, and blanks the
-  // rows left behind. The block must be inside the grid.
+  // rows left behind. The block must be inside the grid. Rows of full width
+  // cost the same whatever is in them.
   void Scroll(const CellRect& block, int lines, uint8_t attribute);
 
  private:
-  size_t Index(int x, int y) const { return static_cast<size_t>(y) * columns + x; }
+  size_t Index(int x, int y) const { return rowStarts[y] + x; }
+  void MoveRows(const CellRect& block, int lines);
   // Gives each cell of a row from first to last the result of change(cell, x).
   template <class Change>
   CellRect ChangeRow(int y, int first, int last, Change change);
 
   std::vector<Cell> cells;
+  std::vector<size_t> rowStarts;  // a permutation of the multiples of columns, which scrolling turns
   int columns = 0, rows = 0;
 };
 

@@ -41,9 +41,9 @@ void Teletype::NextRow() {
   ++y;
   if (y >= screen.Rows()) {
     --y;
-    CellString* top = new CellString;
-    screen.LoadRow(0, *top);
-    ScrollBack.Append(top);
+    row.SetLength(0);
+    screen.LoadRow(0, row);
+    ScrollBack.Append(row.Cells(), row.Length());
     screen.ScrollUpOneRow(attribute);
   }
   LoadRow();

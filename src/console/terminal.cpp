@@ -1,10 +1,10 @@
 // Text and control bytes of a child's output.
 #include "console/terminal.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 #include <tuple>
 
@@ -19,7 +19,7 @@ constexpr char kTitleEnd = '\x9C';
 constexpr int kMostTitleBytes = 4096;  // a title without an end must not swallow all that follows
 
 bool IsControl(char byte) { return static_cast<unsigned char>(byte) < 32; }
-bool IsAscii(char byte) { return static_cast<unsigned char>(byte) < 128; }
+bool IsPlain(char byte) { return static_cast<signed char>(byte) >= 32; }  // a character of one byte
 bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
 // Bytes of the UTF-8 sequence that a byte begins; 1 where it begins none.
@@ -54,6 +54,12 @@ wchar_t GraphicCharacter(char byte) {
   return code >= kFirstGraphic && code <= 126 ? kGraphics[code - kFirstGraphic] : static_cast<wchar_t>(code);
 }
 
+// As MapCharacter, without a call for nearly all.
+template <class Char>
+int32_t StoredCharacter(Char character) {
+  return character >= 32 && character < 127 ? character : MapCharacter(character);
+}
+
 }  // namespace
 
 CTerminal::CTerminal(TerminalScreen& screen, int masterFd)
@@ -63,7 +69,10 @@ CTerminal::CTerminal(TerminalScreen& screen, int masterFd)
       columns(grid.Columns()),
       rows(grid.Rows()),
       colours(Options::Colours[kColourCommandLine]),
-      scrollBottom(grid.Rows() - 1) {}
+      scrollBottom(grid.Rows() - 1) {
+  const int flags = fcntl(masterFd, F_GETFL);
+  if (flags != -1) fcntl(masterFd, F_SETFL, flags | O_NONBLOCK);
+}
 
 CTerminal::~CTerminal() { LeaveAlternateScreen(); }
 
@@ -76,6 +85,7 @@ void CTerminal::SendKey(Key code) {
 // ---- the stream ----------------------------------------------------------------
 
 void CTerminal::Write(const char* bytes, int n) {
+  TakeSize();
   screen.GetCursor(x, y);
   x = std::clamp(x, 0, columns);
   y = std::clamp(y, 0, rows - 1);
@@ -104,16 +114,22 @@ void CTerminal::Write(const char* bytes, int n) {
   screen.SetCursorSize(cursorSize);
 }
 
-// A stretch of text up to a control byte, or that byte.
+// A control byte, or text up to the next one; of that the plain part by itself,
+// which is all there is in nearly every row.
 const char* CTerminal::TakeText(const char* from, const char* to) {
-  const char* const end = std::find_if(from, to, IsControl);
-  if (end > from) {
-    PutRun(from, static_cast<int>(end - from));
-    return end;
+  if (IsControl(*from)) {
+    if (*from != kBell) PutPending();  // a bell may ring in the middle of a character
+    TakeControl(*from);
+    return from + 1;
   }
-  if (*end != kBell) PutPending();  // a bell may ring in the middle of a character
-  TakeControl(*end);
-  return end + 1;
+  if (pending.IsEmpty() && !graphicsCharset) {
+    const char* const end = std::find_if_not(from, to, IsPlain);
+    PutText(from, static_cast<int>(end - from));
+    if (end > from) return end;
+  }
+  const char* const end = std::find_if(from, to, IsControl);
+  PutRun(from, static_cast<int>(end - from));
+  return end;
 }
 
 void CTerminal::TakeControl(char byte) {
@@ -152,40 +168,46 @@ void CTerminal::TakeCharset(char byte) {
 }
 
 void CTerminal::TakeTitle(char byte) {
-  if (byte == kBell || byte == kTitleEnd || ++titleBytes > kMostTitleBytes) state = State::Text;
+  if (byte == kBell || byte == kTitleEnd || ++titleBytes == kMostTitleBytes) state = State::Text;
 }
 
 // ---- text ----------------------------------------------------------------------
 
 void CTerminal::PutRun(const char* text, int n) {
-  if (graphicsCharset) {
-    for (int i = 0; i < n; ++i) {
-      const wchar_t graphic = GraphicCharacter(text[i]);
-      PutText(&graphic, 1);
-    }
-    return;
+  if (graphicsCharset)
+    PutGraphics(text, n);
+  else
+    PutUtf8(text, n);
+}
+
+void CTerminal::PutGraphics(const char* text, int n) {
+  wchar_t shown[128];
+  while (n > 0) {
+    const int piece = std::min(n, static_cast<int>(std::size(shown)));
+    std::transform(text, text + piece, shown, GraphicCharacter);
+    PutText(shown, piece);
+    text += piece;
+    n -= piece;
   }
-  if (pending.IsEmpty() && std::all_of(text, text + n, IsAscii)) {
-    PutText(text, n);
-    return;
-  }
-  Estring run = pending;
-  run += Estring(text, n);
-  const int length = Length(run), kept = UnfinishedBytes(run.Text(), length);
-  pending = Right(run, kept);
-  PutDecoded(Left(run, length - kept));
+}
+
+void CTerminal::PutUtf8(const char* text, int n) {
+  Estring run;
+  run.Assign(text, n);
+  if (!pending.IsEmpty()) run = pending + run;
+  const int length = Length(run), whole = length - UnfinishedBytes(run.Text(), length);
+  pending = run.Text() + whole;
+  run[whole] = 0;
+  const Westring decoded(run.Text());
+  PutText(decoded.Text(), Length(decoded));
 }
 
 // A character that something else came into the middle of.
 void CTerminal::PutPending() {
   if (pending.IsEmpty()) return;
-  PutDecoded(pending);
+  const Westring decoded(pending.Text());
   pending = "";
-}
-
-void CTerminal::PutDecoded(const Estring& utf8) {
-  const Westring text(utf8.Text());
-  PutText(text.Text(), Length(text));
+  PutText(decoded.Text(), Length(decoded));
 }
 
 // Characters of either width, a row's worth at a time.
@@ -197,7 +219,7 @@ void CTerminal::PutText(const Char* text, int n) {
     const int fit = std::min(n, columns - x);
     if (insertMode) InsertBlanks(fit);
     Cell* const cells = grid.MutableRow(y) + x;
-    for (int i = 0; i < fit; ++i) cells[i] = Cell{MapCharacter(text[i]), attribute};
+    for (int i = 0; i < fit; ++i) cells[i] = Cell{StoredCharacter(text[i]), attribute};
     screen.Changed({x, y, x + fit - 1, y});
     lastCharacter = text[fit - 1];
     x += fit;
@@ -211,7 +233,17 @@ void CTerminal::PutRepeated(wchar_t character, int n) {
   PutText(text.Text(), n);
 }
 
-// ---- moving down ---------------------------------------------------------------
+// ---- rows ----------------------------------------------------------------------
+
+// A region that ended with the screen still does.
+void CTerminal::TakeSize() {
+  if (columns == grid.Columns() && rows == grid.Rows()) return;
+  const bool isToTheEnd = scrollBottom == rows - 1;
+  columns = grid.Columns();
+  rows = grid.Rows();
+  scrollTop = std::min(scrollTop, rows - 1);
+  scrollBottom = isToTheEnd ? rows - 1 : std::min(scrollBottom, rows - 1);
+}
 
 void CTerminal::LineFeed() {
   if (y >= scrollBottom)
@@ -229,17 +261,19 @@ void CTerminal::WrapLine() {
     ++y;
 }
 
+void CTerminal::SaveScreenRow(int y) { ScrollBack.Append(grid.Row(y), columns); }
+
 // The rows that are kept are the screen's first, wherever the region begins.
 void CTerminal::ScrollUp(int lines) {
   lines = std::min(lines, rows);
   if (lines < 1) return;
   if (mainScreen == nullptr && Options::ConsoleScrollback) {
-    for (int i = 0; i < lines; ++i) ScrollBack.Append(grid.Row(i), columns);
+    for (int i = 0; i < lines; ++i) SaveScreenRow(i);
   }
   Scroll(Region(), lines);
 }
 
-void CTerminal::ScrollDown(int lines) { Scroll(Region(), -std::clamp(lines, 0, rows)); }
+void CTerminal::ScrollDown(int lines) { Scroll(Region(), -lines); }
 
 void CTerminal::Scroll(const CellRect& block, int lines) {
   if (block.IsEmpty() || lines == 0) return;

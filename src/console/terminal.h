@@ -34,14 +34,19 @@ class TerminalScreen {
 struct CsiSequence {
   char prefix = 0;              // "?" or ">"
   bool isForeign = false;       // holds what no sequence of ours does
+  bool isFull = false;          // further parameters are left out
   std::vector<int> parameters;  // a missing one is 0; none at all is empty
 
+  void Begin();
+  void TakeDigit(char digit);
+  void NextParameter();
   int First(int missing) const { return parameters.empty() ? missing : parameters[0]; }
 };
 
 class CTerminal {
  public:
-  // The screen outlives the terminal; the descriptor stays the caller's.
+  // The screen outlives the terminal. The descriptor stays the caller's, but is
+  // made non-blocking, for reading too: whoever reads from it polls first.
   CTerminal(TerminalScreen& screen, int masterFd);
   ~CTerminal();  // leaves the alternate screen
   CTerminal(const CTerminal&) = delete;
@@ -49,8 +54,10 @@ class CTerminal {
 
   // n bytes of output. Zero bytes are dropped.
   void Write(const char* bytes, int n);
-  // From the GUI thread. Never blocks: what the child does not take is lost.
+  // From the GUI thread. Never waits: what the child does not take is lost.
   void SendKey(Key code);
+  // Adds row y of the screen to ScrollBack.
+  void SaveScreenRow(int y);
 
  private:
   friend struct CsiTable;
@@ -64,13 +71,13 @@ class CTerminal {
   void TakeCharset(char byte);
   void TakeTitle(char byte);
   void TakeCsi(char byte);
-  void InterruptCsi(char control);
   void EndCsi(char final);
 
   // Text at the cursor.
   void PutRun(const char* text, int n);
+  void PutUtf8(const char* text, int n);
+  void PutGraphics(const char* text, int n);
   void PutPending();
-  void PutDecoded(const Estring& utf8);
   template <class Char>
   void PutText(const Char* text, int n);
   void PutRepeated(wchar_t character, int n);
@@ -78,6 +85,7 @@ class CTerminal {
   void DeleteCharacters(int n);
 
   // Rows.
+  void TakeSize();
   void LineFeed();
   void WrapLine();
   void ScrollUp(int lines);
@@ -106,9 +114,10 @@ class CTerminal {
   std::atomic<bool> applicationCursor{false};  // read by the GUI thread
   wchar_t lastCharacter = 0;
   std::unique_ptr<Cell[]> mainScreen;  // while the alternate screen is shown
+  int mainColumns = 0, mainRows = 0;   // its size
 
   State state = State::Text;
-  Estring pending;  // a character of several bytes, so far
+  Estring pending;  // a character of several bytes, so far; empty in the graphics set
   CsiSequence csi;
   int titleBytes = 0;  // taken so far
 };

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int kMostParameters = 4096;
+constexpr size_t kMostParameters = 65536;
 constexpr int kMostNumber = 1000000;  // far beyond any screen
 
 constexpr int kVisibleCursor = 15;  // percent
@@ -38,7 +38,7 @@ void CTerminal::TakeEscape(char byte) {
       ScrollDown(1);
       break;
     case '[':
-      csi = {};
+      csi.Begin();
       state = State::Csi;
       break;
     case ']':
@@ -50,37 +50,45 @@ void CTerminal::TakeEscape(char byte) {
   }
 }
 
-// Parameters are added as they begin; what follows a ":" belongs to a form of
-// colour that we do not have.
+// The parameters keep their room: sequences come by the thousand.
+void CsiSequence::Begin() {
+  prefix = 0;
+  isForeign = isFull = false;
+  parameters.clear();
+}
+
+void CsiSequence::TakeDigit(char digit) {
+  if (isFull) return;
+  if (parameters.empty()) parameters.push_back(0);
+  parameters.back() = std::min(parameters.back() * 10 + (digit - '0'), kMostNumber);
+}
+
+void CsiSequence::NextParameter() {
+  if (parameters.empty()) parameters.push_back(0);  // the missing one in front
+  if (parameters.size() < kMostParameters)
+    parameters.push_back(0);
+  else
+    isFull = true;
+}
+
+// What no sequence of ours holds is read to its end, so that it does not show.
+// Controls work inside of a sequence, and an escape begins another one.
 void CTerminal::TakeCsi(char byte) {
-  std::vector<int>& parameters = csi.parameters;
+  const auto code = static_cast<unsigned char>(byte);
   if (IsDigit(byte)) {
-    if (parameters.empty()) parameters.push_back(0);
-    parameters.back() = std::min(parameters.back() * 10 + (byte - '0'), kMostNumber);
+    csi.TakeDigit(byte);
   } else if (byte == ';') {
-    if (parameters.empty()) parameters.push_back(0);
-    if (static_cast<int>(parameters.size()) < kMostParameters) parameters.push_back(0);
-  } else if ((byte == '?' || byte == '>') && parameters.empty() && csi.prefix == 0) {
+    csi.NextParameter();
+  } else if ((byte == '?' || byte == '>') && csi.parameters.empty() && csi.prefix == 0) {
     csi.prefix = byte;
-  } else if (byte >= ' ' && byte < '@') {
+  } else if (code >= ' ' && code < '@') {
     csi.isForeign = true;
-  } else if (static_cast<unsigned char>(byte) < ' ') {
-    InterruptCsi(byte);
+  } else if (code < ' ') {
+    TakeControl(byte);
   } else {
     state = State::Text;
     if (!csi.isForeign) EndCsi(byte);
   }
-}
-
-// ---- what sequences do -----------------------------------------------------------
-
-// Controls work inside of a sequence; an escape begins another one.
-void CTerminal::InterruptCsi(char byte) {
-  constexpr char kEscapeByte = 27;
-  if (byte == kEscapeByte)
-    state = State::Escape;
-  else
-    TakeControl(byte);
 }
 
 // ---- what the sequences do -------------------------------------------------------
@@ -169,9 +177,12 @@ struct CsiTable {
   static void ScrollUp(CTerminal& t, const CsiSequence& csi) { t.ScrollUp(csi.First(0)); }
   static void ScrollDown(CTerminal& t, const CsiSequence& csi) { t.ScrollDown(Count(csi)); }
 
-  // More than a screenful would show nothing else.
+  // More than a screenful would show nothing else; the cursor ends in the same
+  // column.
   static void Repeat(CTerminal& t, const CsiSequence& csi) {
-    if (t.lastCharacter != 0) t.PutRepeated(t.lastCharacter, std::min(Count(csi), t.columns * t.rows));
+    const int most = t.columns * t.rows, count = Count(csi);
+    if (t.lastCharacter == 0) return;
+    t.PutRepeated(t.lastCharacter, count > most ? most + (count - most) % t.columns : count);
   }
 
   static void Colours(CTerminal& t, const CsiSequence& csi) {
@@ -283,19 +294,21 @@ void CTerminal::SaveCursor() {
 }
 
 void CTerminal::RestoreCursor() {
-  x = savedX;
-  y = savedY;
+  x = std::min(savedX, columns);
+  y = std::min(savedY, rows - 1);
 }
 
 void CTerminal::EnterAlternateScreen() {
   if (mainScreen != nullptr) return;
   mainScreen = grid.SaveBlock(0, 0, columns, rows);
+  mainColumns = columns;
+  mainRows = rows;
   Blank(0, 0, columns - 1, rows - 1);
   x = y = 0;
 }
 
 void CTerminal::LeaveAlternateScreen() {
   if (mainScreen == nullptr) return;
-  screen.Changed(grid.RestoreBlock(0, 0, columns, rows, mainScreen.get()));
+  screen.Changed(grid.RestoreBlock(0, 0, mainColumns, mainRows, mainScreen.get()));
   mainScreen.reset();
 }

@@ -151,7 +151,8 @@ TEST_F(ConsoleTest, TextAtTheBottomScrollsIntoTheScrollback) {
   EXPECT_EQ(Row(22).Trimmed(), "last");
   ExpectCursor(0, 24);
   ASSERT_EQ(ScrollBack.Count(), 2);
-  EXPECT_EQ(CharacterOf((*ScrollBack.At(0))[0]), 'f');
+  int length = 0;
+  EXPECT_EQ(CharacterOf(ScrollBack.Row(0, length)[0]), 'f');
   ScrollBack.Clear();
 }
 

@@ -5,7 +5,6 @@
 
 #include <string>
 
-#include "console/scrollback.h"
 #include "support/cells.h"
 
 namespace {
@@ -131,11 +130,4 @@ TEST(CellStrings, EqualMeansCharacterAndAttribute) {
   EXPECT_TRUE(CellsEqual(a.Cells(), a.Cells(), 3));
   EXPECT_FALSE(CellsEqual(a.Cells(), b.Cells(), 3));
   EXPECT_TRUE(CellsEqual(a.Cells(), b.Cells(), 0));
-}
-
-TEST(ScrollBackBuffer, OwnsItsRows) {
-  CScrollBackBuffer buffer;
-  for (int i = 0; i < 1000; ++i) buffer.Append(new CellString(L"row", 7));
-  EXPECT_EQ(buffer.Count(), 1000);
-  EXPECT_EQ(TextOf(*buffer.At(999)), L"row");
 }

@@ -104,9 +104,11 @@ TEST_F(TeletypeTest, PrintableMeansAnyLanguage) {
 
 TEST_F(TeletypeTest, TheTopRowGoesToTheScrollback) {
   Print(L"one\ntwo\nthree\nfour\nfive\n");
-  EXPECT_EQ(ScrollBack.Count(), 2);
-  EXPECT_EQ(ScrollBack.At(0)->Length(), 20);
-  EXPECT_EQ(CharacterOf((*ScrollBack.At(1))[1]), 'w');
+  ASSERT_EQ(ScrollBack.Count(), 2);
+  int length = 0;
+  ScrollBack.Row(0, length);
+  EXPECT_EQ(length, 20);
+  EXPECT_EQ(CharacterOf(ScrollBack.Row(1, length)[1]), 'w');
   EXPECT_EQ(screen.Row(0), L"three");
   EXPECT_EQ(screen.Row(2), L"five");
   EXPECT_EQ(y, 3);
