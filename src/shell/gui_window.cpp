@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <cwchar>
 
 #include "dialogs/prompt.h"
 #include "foundation/paths.h"
@@ -33,17 +32,6 @@ const FileBrowser* FindBrowser() {
   return nullptr;
 }
 
-// Quoting for a command line leaves the user what divides commands and what stands
-// for several names. The name of a directory has none of that.
-Westring AsOneArgument(const Westring& path) {
-  Westring result;
-  for (const wchar_t* p = path.Text(); *p; ++p) {
-    const Westring character(p, 1);
-    result += wcschr(L"\t\n\r;*?#%^=", *p) ? L"\"" + character + L"\"" : ShellQuote(character);
-  }
-  return result;
-}
-
 }  // namespace
 
 void OpenGuiWindow(const Westring& path) {
@@ -53,7 +41,7 @@ void OpenGuiWindow(const Westring& path) {
   if (chdir(ToUtf8(directory).Text()) != 0) return ShowPathError(errno, directory);
 
   Westring arguments = browser->arguments;
-  ReplaceAll(arguments, L"!", AsOneArgument(path).Text());
+  ReplaceAll(arguments, L"!", ShellQuote(path).Text());
   if (!StartDetached(browser->program + (L" " + arguments)))
     Prompt(L"Error forking child process", SystemError(errno).Text(), kPromptOk);
   Panels[0].readPending = Panels[1].readPending = true;

@@ -3,29 +3,127 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
+#include "unit/shell/shell_output.h"
+
 namespace {
-std::wstring Quoted(const wchar_t* text) { return ShellQuote(text).Text(); }
-std::wstring Unquoted(const wchar_t* text) { return Unquote(text).Text(); }
+
+constexpr wchar_t kGiven[] = L" !$~`[]{}()\\'\"<>&|";
+constexpr wchar_t kAlso[] = L";*?#=^";
+
+std::wstring Quoted(const std::wstring& text) { return ShellQuote(text.c_str()).Text(); }
+std::wstring Unquoted(const std::wstring& text) { return Unquote(text.c_str()).Text(); }
+
+bool IsControl(wchar_t c) { return c < 32 || c == 127; }
+
+// Every character of one byte at each place of a name, and all of them together.
+std::vector<std::wstring> AwkwardNames() {
+  std::vector<std::wstring> names;
+  std::wstring all;
+  for (wchar_t c = 1; c < 256; ++c) {
+    const std::wstring one(1, c);
+    for (const std::wstring& name : {one, L"a" + one, one + L"b", L"a" + one + L"b", one + one, L"-" + one})
+      names.push_back(name);
+    all += one;
+  }
+  names.push_back(all);
+  for (const wchar_t* name : {L"-",
+                              L"-rf",
+                              L"--",
+                              L"  both ends  ",
+                              L"$HOME",
+                              L"~root",
+                              L"\\\n",
+                              L"'\n'",
+                              L"\n'\n",
+                              L"a=b",
+                              L"A=$B",
+                              L"$'\\n'",
+                              L"\"\n\"",
+                              L"{a,b}",
+                              L"%1",
+                              L"#!x",
+                              L"\x4E16\x1F600\xE9",
+                              L"..",
+                              L"\t \t",
+                              L"\r\n"})
+    names.push_back(name);
+  return names;
+}
+
+// Names of up to 60 characters, half of them from those that shells look at.
+std::vector<std::wstring> RandomNames(int count) {
+  constexpr wchar_t kFavoured[] = L" !$~`[]{}()\\'\"<>&|;*?#=^%\n\t\r\x01\x7F-";
+  std::mt19937 random(20240305);
+  std::vector<std::wstring> names;
+  while (static_cast<int>(names.size()) < count) {
+    std::wstring name;
+    for (unsigned length = 1 + random() % 60; name.size() < length;)
+      name += random() % 2 ? kFavoured[random() % (std::size(kFavoured) - 1)]
+                           : static_cast<wchar_t>(1 + random() % (random() % 8 ? 255 : 0x2FFF));
+    names.push_back(name);
+  }
+  return names;
+}
+
+// What the program of a command line of all those names is given.
+void ExpectEachToArrive(const std::vector<std::wstring>& names) {
+  for (const char* shell : Shells()) {
+    ArgumentPrinter printer;
+    std::wstring line;
+    for (const std::wstring& name : names) line += L" " + Quoted(name);
+    const std::vector<std::string> arrived = printer.Run(shell, line);
+    ASSERT_EQ(arrived.size(), names.size()) << shell;
+    for (size_t i = 0; i < names.size(); ++i)
+      EXPECT_EQ(arrived[i], ToUtf8(names[i].c_str()).Text()) << shell << ", name " << i;
+  }
+}
+
 }  // namespace
 
 TEST(ShellQuote, PutsABackslashBeforeEachCharacterThatMeansSomething) {
-  for (const wchar_t* p = L" !$~`[]{}()\\'\"<>&|"; *p; ++p) {
-    const std::wstring plain = std::wstring(L"a") + *p + L"b";
-    EXPECT_EQ(Quoted(plain.c_str()), std::wstring(L"a\\") + *p + L"b");
-  }
+  for (const wchar_t* set : {kGiven, kAlso})
+    for (const wchar_t* p = set; *p; ++p) {
+      const std::wstring plain = std::wstring(L"a") + *p + L"b";
+      EXPECT_EQ(Quoted(plain), std::wstring(L"a\\") + *p + L"b");
+    }
+}
+
+TEST(ShellQuote, PutsABackslashBeforeControlCharactersAndANewlineInQuotes) {
+  EXPECT_EQ(Quoted(L"a\tb\r\x01\x1B\x7F"), L"a\\\tb\\\r\\\x01\\\x1B\\\x7F");
+  EXPECT_EQ(Quoted(L"a\nb"), L"a'\n'b");
+  EXPECT_EQ(Quoted(L"\n\n"), L"'\n''\n'");
 }
 
 TEST(ShellQuote, LeavesAllOtherCharactersOfAsciiAlone) {
-  const std::wstring special = L" !$~`[]{}()\\'\"<>&|";
+  const std::wstring special = std::wstring(kGiven) + kAlso;
   for (wchar_t c = 1; c < 127; ++c) {
-    if (special.find(c) != std::wstring::npos) continue;
-    EXPECT_EQ(Quoted(std::wstring(1, c).c_str()), std::wstring(1, c));
+    if (IsControl(c) || special.find(c) != std::wstring::npos) continue;
+    EXPECT_EQ(Quoted(std::wstring(1, c)), std::wstring(1, c));
   }
+  EXPECT_EQ(Quoted(L"-Some_name.tar.gz,v+1@2:3%/x"), L"-Some_name.tar.gz,v+1@2:3%/x");
 }
 
 TEST(ShellQuote, LeavesOtherScriptsAndTheEmptyTextAlone) {
-  EXPECT_EQ(Quoted(L"\x444\x430\x439\x43B.\x4E16"), L"\x444\x430\x439\x43B.\x4E16");
+  EXPECT_EQ(Quoted(L"\x444\x430\x439\x43B.\x4E16\xA0\x85"), L"\x444\x430\x439\x43B.\x4E16\xA0\x85");
   EXPECT_EQ(Quoted(L""), L"");
+}
+
+TEST(ShellQuote, EveryNameReachesAProgramAsOneArgumentWithItsBytes) { ExpectEachToArrive(AwkwardNames()); }
+
+TEST(ShellQuote, RandomNamesReachAProgramAsOneArgumentWithTheirBytes) {
+  ExpectEachToArrive(RandomNames(400));
+}
+
+TEST(ShellQuote, AProgramIsFoundByItsQuotedName) {
+  for (const wchar_t* name : {L"a=b", L"#x", L"a%", L"my prog", L"x;y", L"new\nline", L"!", L"if*"})
+    for (const char* shell : Shells()) {
+      ArgumentPrinter printer(ToUtf8(name).Text());
+      EXPECT_EQ(printer.RunByName(shell, Quoted(name) + L" one two"),
+                (std::vector<std::string>{"one", "two"}))
+          << shell << ": " << ToUtf8(name).Text();
+    }
 }
 
 TEST(Unquote, TakesOneLevelAway) {
@@ -39,8 +137,12 @@ TEST(Unquote, KeepsABackslashWithNothingBehindIt) {
   EXPECT_EQ(Unquoted(L"\\"), L"\\");
 }
 
+TEST(Unquote, KeepsOtherQuotes) {
+  EXPECT_EQ(Unquoted(L"'a' \"b\" '\na'"), L"'a' \"b\" '\na'");
+  EXPECT_EQ(Unquoted(L"\\'\n'"), L"'\n'");
+}
+
 TEST(Unquote, UndoesShellQuote) {
-  for (const wchar_t* text :
-       {L"", L"plain", L"a b", L"\\", L"it's \"$5\" & `x`|{y}<z>[~]!()", L"\xE9 \x4E16"})
-    EXPECT_EQ(Unquoted(ShellQuote(text).Text()), text);
+  for (const std::vector<std::wstring>& names : {AwkwardNames(), RandomNames(2000)})
+    for (const std::wstring& name : names) EXPECT_EQ(Unquoted(Quoted(name)), name);
 }
