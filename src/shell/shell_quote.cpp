@@ -8,9 +8,8 @@ namespace {
 constexpr wchar_t kQuotedNewline[] = L"'\n'";
 constexpr int kQuotedNewlineLength = 3;
 
-// What divides, expands, redirects and quotes. The second row is in no shell's way
-// but at some places: ends of commands, patterns of names, comments, assignments,
-// and the "^" and "=" of zsh.
+// What divides, expands, redirects and quotes; in the second row what does so only
+// at some places of a line or for some shells.
 constexpr wchar_t kSpecial[] =
     L" !$~`[]{}()\\'\"<>&|"
     L";*?#=^";

@@ -5,8 +5,10 @@
 
 Westring TempDirectory();  // TMP, else TEMP, else "/tmp"
 
-// A path that does not exist, in directory or, if that is empty, in the
-// temporary directory.
+// A path at which there is nothing, in directory or, if that is empty, in the
+// temporary directory. Nothing is made; whoever makes the file sees to it that
+// it is a new one.
 void MakeTempName(Westring& name, const Westring& directory);
 
-void RemoveTempFiles();  // all of this process
+// All files of this process in the temporary directory.
+void RemoveTempFiles();
