@@ -51,13 +51,17 @@ bool InsertText(Shell& shell, const Westring& text, int most) {
   return true;
 }
 
-bool InsertAtCursor(Shell& shell, const Westring& text) {
-  const Westring quoted = ShellQuote(text);
-  Westring inserted;
-  for (const wchar_t* p = quoted.Text(); *p; ++p) {
-    inserted += *p;
-    if (*p == static_cast<unsigned char>(Options::CmdChar)) inserted += *p;
+Westring WithoutMacros(const Westring& text) {
+  Westring result;
+  for (const wchar_t* p = text.Text(); *p; ++p) {
+    result += *p;
+    if (*p == static_cast<unsigned char>(Options::CmdChar)) result += *p;
   }
+  return result;
+}
+
+bool InsertAtCursor(Shell& shell, const Westring& text) {
+  Westring inserted = WithoutMacros(ShellQuote(text));
   const int length = Length(inserted);
   if (length > 0 && inserted[length - 1] != L'/') inserted += L' ';
   return InsertText(shell, inserted);
@@ -72,12 +76,17 @@ LineView FitLine(LineView view, int length, int promptWidth, int columns) {
   return view;
 }
 
-Westring PromptText() {
-  const TPanel& active = ActivePanel();
-  const TPanel& shown = active.IsFiles() && !active.IsTree() ? active : OtherPanel();
-  const Westring path = ShortenPath(shown.path, ScreenColumns / 2 - 1);
+int CommandSide(int side) {
+  const TPanel& panel = Panels[side];
+  return panel.IsFiles() && !panel.IsTree() ? side : side ^ 1;
+}
+
+Westring PromptOf(const TPanel& panel) {
+  const Westring path = ShortenPath(panel.path, ScreenColumns / 2 - 1);
   return (Options::PathPrompt ? path : Left(path, 2)) + L">";
 }
+
+Westring PromptText() { return PromptOf(Panels[CommandSide(static_cast<int>(ActiveSide))]); }
 
 void PaintCommandLine(Shell& shell) {
   const Westring prompt = PromptText();

@@ -14,6 +14,8 @@ constexpr int kMaxInsertedLine = 511;
 // Puts text in at the cursor if the line then holds at most that many
 // characters. Tells whether it did.
 bool InsertText(Shell& shell, const Westring& text, int most = kMaxInsertedLine);
+// Text that the expansion of macros gives back as it is.
+Westring WithoutMacros(const Westring& text);
 // The same with text quoted for the shell and for macros, and a blank behind it.
 bool InsertAtCursor(Shell& shell, const Westring& text);
 
@@ -26,6 +28,11 @@ struct LineView {
 // and a long line's last 40 characters from being scrolled out on the left.
 LineView FitLine(LineView view, int length, int promptWidth, int columns);
 
+// The side whose directory commands run in: the other one for a panel that shows
+// information or a tree.
+int CommandSide(int side);
+// What stands in front of a command: the panel's path, shortened, and ">".
+Westring PromptOf(const TPanel& panel);
 // The prompt in front of the line.
 Westring PromptText();
 void PaintCommandLine(Shell& shell);

@@ -9,8 +9,10 @@
 #include "foundation/code_pages.h"
 #include "panels/panel.h"
 #include "shell/command_line.h"
+#include "shell/completion.h"
 #include "shell/dialog_commands.h"
 #include "shell/dispatch.h"
+#include "shell/execute.h"
 #include "shell/history.h"
 #include "shell/menu_commands.h"
 #include "shell/panel_commands.h"
@@ -21,12 +23,10 @@ namespace {
 constexpr unsigned kListMove = kEndsSearch;
 
 int RunLine(Shell& shell, bool separate) {
-  const Westring line = shell.commandLine;
-  const int redraw = ExecuteCommandLine(static_cast<int>(ActiveSide), line, separate);
-  const bool hadText = !line.IsEmpty();
+  const int redraw = ExecuteCommandLine(static_cast<int>(ActiveSide), shell.commandLine, separate);
   EmptyCommandLine(shell);
   shell.historyIndex = 0;
-  return hadText ? kRedrawAll : redraw;
+  return redraw;
 }
 
 int RunEnter(Shell& shell) { return RunLine(shell, false); }
@@ -163,7 +163,7 @@ constexpr CommandRow kCommands[] = {
     {kCtrlShiftJ, 0, InsertName},
     {CtrlLetter('f'), 0, InsertFullPath},
     {kCtrlShiftF, 0, InsertFullPath},
-    {kCtrlTab, 0, nullptr},
+    {kCtrlTab, 0, CompleteFileName},
     {kCtrlInsert, 0, CopyLine},
     {kShiftInsert, 0, PasteLine},
     {kDelete, 0, DeleteAtCursor},
@@ -245,7 +245,7 @@ constexpr CommandRow kCommands[] = {
     {AltShiftFKey(5), 0, RunStyleOfActive<kStyleUnix>},
     {AltShiftFKey(8), 0, nullptr},
     {CtrlShiftFKey(5), kPanelShown | kFilesPanel | kNoArchive, nullptr},
-    {ShiftFKey(1), 0, nullptr},
+    {ShiftFKey(1), 0, RunManual},
 
     {kMenuLeftName, 0, RunSort<0, 0>},
     {kMenuLeftName + 1, 0, RunSort<0, 1>},

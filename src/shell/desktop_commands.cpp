@@ -14,3 +14,5 @@ int RunGuiWindow(Shell&) {
   OpenGuiWindow(panel.IsTree() ? TreeRowPath(panel, panel.CurrentIndex()) : Westring(panel.path));
   return kRedrawAll;
 }
+
+int RunManual(Shell&) { return OpenManual() ? kRedrawAll : kRedrawNothing; }

@@ -12,3 +12,4 @@ int RunMounts(Shell& shell, int side, bool filterless);
 int RunStoredPaths(Shell& shell);
 int RunMakeObjects(Shell& shell);
 int RunGuiWindow(Shell& shell);
+int RunManual(Shell& shell);

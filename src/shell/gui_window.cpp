@@ -1,48 +1,59 @@
-// A directory in the desktop's own file browser.
+// Programs of the desktop; see gui_window.h.
 #include "shell/gui_window.h"
 
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstring>
-
-#include "dialogs/prompt.h"
-#include "foundation/paths.h"
-#include "panels/navigation.h"
+#include "config/data_paths.h"
+#include "panels/panel.h"
 #include "shell/child_process.h"
+#include "shell/run_command.h"
 #include "shell/shell_quote.h"
 
 namespace {
 
-struct FileBrowser {
-  const wchar_t* program;
-  const wchar_t* arguments;  // "!" is the directory
+struct DesktopProgram {
+  const wchar_t* name;
+  const wchar_t* arguments;  // "!" is what it is to show
 };
 
 // In the order in which they are looked for.
-constexpr FileBrowser kBrowsers[] = {
+constexpr DesktopProgram kFileBrowsers[] = {
     {L"nautilus", L"--browser !"},
     {L"dolphin", L"!"},
 };
+constexpr DesktopProgram kWebBrowsers[] = {
+    {L"x-www-browser", L"file://!"},
+    {L"firefox", L"file://!"},
+    {L"mozilla-firefox", L"file://!"},
+    {L"epiphany", L"file://!"},
+};
 
-const FileBrowser* FindBrowser() {
+template <int count>
+const DesktopProgram* FindFirst(const DesktopProgram (&programs)[count]) {
   Westring ignored;
-  for (const FileBrowser& browser : kBrowsers)
-    if (FindProgram(browser.program, ignored)) return &browser;
+  for (const DesktopProgram& program : programs)
+    if (FindProgram(program.name, ignored)) return &program;
   return nullptr;
+}
+
+void Show(const DesktopProgram& program, const Westring& path) {
+  Westring arguments = program.arguments;
+  ReplaceAll(arguments, L"!", ShellQuote(path).Text());
+  const Westring command = program.name + (L" " + arguments) + L" &";
+  RunCommand(command, static_cast<int>(ActiveSide), L"", kRunTwoFeeds);
+}
+
+Westring ManualIndex() {
+  const Westring manual = DataFilePath(kManualFile);
+  return Left(manual, RFind(manual, L'/') + 1) + L"index.html";
 }
 
 }  // namespace
 
 void OpenGuiWindow(const Westring& path) {
-  const FileBrowser* browser = FindBrowser();
-  if (!browser) return;
-  const Westring directory = ActivePanel().path;
-  if (chdir(ToUtf8(directory).Text()) != 0) return ShowPathError(errno, directory);
+  if (const DesktopProgram* const browser = FindFirst(kFileBrowsers)) Show(*browser, path);
+}
 
-  Westring arguments = browser->arguments;
-  ReplaceAll(arguments, L"!", ShellQuote(path).Text());
-  if (!StartDetached(browser->program + (L" " + arguments)))
-    Prompt(L"Error forking child process", SystemError(errno).Text(), kPromptOk);
-  Panels[0].readPending = Panels[1].readPending = true;
+bool OpenManual() {
+  const DesktopProgram* const browser = FindFirst(kWebBrowsers);
+  if (browser) Show(*browser, ManualIndex());
+  return browser != nullptr;
 }

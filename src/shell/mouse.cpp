@@ -11,6 +11,7 @@
 #include "panels/draw_panel.h"
 #include "panels/navigation.h"
 #include "panels/tags.h"
+#include "shell/execute.h"
 #include "shell/key_bar.h"
 #include "shell/panel_commands.h"
 

@@ -2,6 +2,7 @@
 // returns what is to be painted.
 #pragma once
 
+#include "shell/execute.h"
 #include "shell/shell.h"
 
 int GoFirst(Shell& shell);
@@ -39,5 +40,5 @@ int InsertName(Shell& shell);
 int InsertFullPath(Shell& shell);    // with Shift to the clipboard
 int CompleteOrInsert(Shell& shell);  // from the history, or the entry's name
 
-// Enter, and Alt-Enter with separate.
-int ExecuteCommandLine(int side, const Westring& text, bool separate);
+// Takes the panel into the file of that name. Nothing happens if it is no archive.
+void OpenAsArchive(int side, const Westring& name);

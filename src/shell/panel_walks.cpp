@@ -105,8 +105,6 @@ int GoToLinkTarget(Shell& shell) {
   return kRedrawAll;
 }
 
-namespace {
-
 void OpenAsArchive(int side, const Westring& name) {
   if (!OpenArchive) return;
   TPanel& panel = Panels[side];
@@ -116,8 +114,6 @@ void OpenAsArchive(int side, const Westring& name) {
   panel.archive = std::move(level);
   Enter(side, name.Text(), false, -1, 0);
 }
-
-}  // namespace
 
 int OpenEntryAsArchive(Shell& shell) {
   if (!shell.currentEntry || !ActivePanel().IsVisibleFiles()) return kRedrawNothing;
@@ -224,21 +220,4 @@ int CompleteOrInsert(Shell& shell) {
   else if (shell.currentEntry && ActivePanel().IsFiles())
     Console->SetClipboardText(shell.currentEntry->name);
   return kRedrawLine;
-}
-
-int ExecuteCommandLine(int side, const Westring& text, bool) {
-  if (!text.IsEmpty()) {
-    AddCommand(text);
-    return kRedrawAll;
-  }
-  TPanel& panel = Panels[side];
-  const entry* e = panel.IsVisibleFiles() ? panel.Current() : nullptr;
-  if (!e) return kRedrawNothing;
-  const Westring name(e->name);  // the entry goes with the read
-  if (e->IsDirectory()) {
-    Enter(side, name.Text(), false, -1, 0);
-    return kRedrawLine;
-  }
-  OpenAsArchive(side, name);
-  return kRedrawAll;
 }

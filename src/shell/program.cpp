@@ -24,6 +24,7 @@
 #include "shell/screen.h"
 
 namespace {
+#include "shell/temp_names.h"
 
 void ResetInput() {
   BreakState = 0;
@@ -101,6 +102,7 @@ void ClosePanels(const Arguments& arguments) {
   }
   LeaveScreen();
   if (!arguments.exitScript.IsEmpty()) WriteExitScript(arguments.exitScript, scriptPath);
+  RemoveTempFiles();
 }
 
 void RefuseInternalTool(const char* what) {
