@@ -2,6 +2,8 @@
 // of the program, or of the settings file on the command line.
 #include "config/data_paths.h"
 
+#include <sys/stat.h>
+
 #include "config/values/options.h"
 #include "foundation/environment.h"
 #include "foundation/paths.h"
@@ -57,6 +59,10 @@ Westring DirectoryOf(Place place) {
 Westring SettingsDirectory() {
   if (!IniFileArgument.IsEmpty()) return DirectoryPart(IniFileArgument);
   return JoinPath(Westring(HomeDirectory().Text()), L".orvane/");
+}
+
+void MakeSettingsDirectory() {
+  if (IniFileArgument.IsEmpty()) mkdir(ToUtf8(SettingsDirectory()).Text(), 0700);
 }
 
 Westring DataFilePath(DataFile kind, bool shared) {

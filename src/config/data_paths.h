@@ -22,3 +22,7 @@ Westring IconPath(const wchar_t* name);
 
 // The directory of the user's settings, with its closing slash.
 Westring SettingsDirectory();
+
+// Makes the user's own one, for a first file in it. One that can't be made shows
+// in the open that follows; that of a file of the command line is not made.
+void MakeSettingsDirectory();

@@ -1,8 +1,6 @@
 // Writing the settings file; start at SaveSettings(). Every value is one line
 // that reads back to the same value; what the format can't hold, a line end or
 // more than a line's length, is made to fit, so that no other line suffers.
-#include <sys/stat.h>
-
 #include <cerrno>
 #include <cstring>
 
@@ -98,12 +96,6 @@ int WriteSettings(StdFile& file) {
   WriteArchivers(out);
   WriteOptions(out);
   return out.Error();
-}
-
-// The user's own directory for a first save. One that can't be made shows in
-// the open that follows.
-void MakeSettingsDirectory() {
-  if (IniFileArgument.IsEmpty()) mkdir(ToUtf8(SettingsDirectory()).Text(), 0700);
 }
 
 bool Failed(const Westring& path, int code) {

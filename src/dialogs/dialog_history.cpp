@@ -18,7 +18,14 @@ void AddToHistory(WestringStore& history, const Westring& text) {
   history.Add(added);
 }
 
-void AddDialogHistory(const Westring& text, int kind) {
+void (*KeepDialogEntry)(const Westring& text, int kind) = nullptr;
+
+void AddDialogHistory(const Westring& text, int kind, bool quiet) {
   if (kind < 0 || kind >= kHistoryKinds || text.IsEmpty()) return;
-  AddToHistory(DialogHistories[kind], text);
+  WestringStore& history = DialogHistories[kind];
+  // A field may be committed before the end of its dialog, and once more there.
+  const Westring* newest = history.Peek(history.Count() - 1);
+  if (newest && wcscmp(newest->Text(), text.Text()) == 0) return;
+  AddToHistory(history, text);
+  if (!quiet && KeepDialogEntry) KeepDialogEntry(text, kind);
 }

@@ -24,6 +24,9 @@ extern WestringStore DialogHistories[kHistoryKinds];  // the newest last
 // Puts text at the end of a list; equal ones go, letter by letter.
 void AddToHistory(WestringStore& history, const Westring& text);
 
-// The same for the list of a kind. A kind without a list, or no text, does
-// nothing.
-void AddDialogHistory(const Westring& text, int kind);
+// The same for the list of a kind; unless quiet, KeepDialogEntry gets it, too. A
+// kind without a list, no text, or the newest of the list does nothing.
+void AddDialogHistory(const Westring& text, int kind, bool quiet = false);
+
+// Keeps what was entered beyond this run. The room above fills it.
+extern void (*KeepDialogEntry)(const Westring& text, int kind);

@@ -4,12 +4,18 @@
 #include "dialogs/dialog_history.h"
 #include "foundation/fold.h"
 #include "shell/command_line.h"
+#include "shell/history_file.h"
 
 WestringStore CommandHistory;
 
-void AddCommand(const Westring& text) {
+void AddCommand(const Westring& text, bool quiet, bool isNew) {
   const Westring command = LTrim(text);
-  if (!command.IsEmpty()) AddToHistory(CommandHistory, command);
+  if (command.IsEmpty()) return;
+  if (isNew)
+    CommandHistory.Add(command);
+  else
+    AddToHistory(CommandHistory, command);
+  if (!quiet) AppendCommandToFile(command);
 }
 
 namespace {

@@ -6,8 +6,9 @@
 
 extern WestringStore CommandHistory;  // oldest first
 
-// Without leading blanks, at the end; equal ones go.
-void AddCommand(const Westring& text);
+// Without leading blanks, at the end; equal ones go. Unless quiet, the file gets
+// it at once. isNew: there is no equal one, which saves looking for it.
+void AddCommand(const Westring& text, bool quiet = false, bool isNew = false);
 
 int PreviousCommand(Shell& shell);
 int NextCommand(Shell& shell);

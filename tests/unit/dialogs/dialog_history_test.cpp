@@ -53,3 +53,28 @@ TEST_F(DialogHistory, KnowsTwelveKindsAndNoOthers) {
   for (int kind = 0; kind < 12; ++kind) AddDialogHistory(L"text", kind);
   for (const WestringStore& history : DialogHistories) EXPECT_EQ(history.Count(), 1);
 }
+
+namespace {
+
+Strings kept;
+
+void Keep(const Westring& text, int kind) {
+  kept.push_back(std::to_string(kind) + ":" + ToUtf8(text).Text());
+}
+
+}  // namespace
+
+TEST_F(DialogHistory, HandsOnWhatIsNewUnlessQuiet) {
+  kept.clear();
+  KeepDialogEntry = Keep;
+  AddDialogHistory(L"a", kHistoryLink);
+  AddDialogHistory(L"quiet", kHistoryLink, true);
+  AddDialogHistory(L"a", kHistoryLink);
+  AddDialogHistory(L"a", kHistoryLink);  // a field committed twice
+  AddDialogHistory(L"", kHistoryLink);
+  AddDialogHistory(L"b", kNoHistory);
+  KeepDialogEntry = nullptr;
+  AddDialogHistory(L"c", kHistoryLink);
+  EXPECT_EQ(kept, (Strings{"10:a", "10:a"}));
+  EXPECT_EQ(Links(), (Strings{"quiet", "a", "c"}));
+}

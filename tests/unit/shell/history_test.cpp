@@ -12,7 +12,7 @@ class History : public ShellFixture {
   ~History() override { CommandHistory.Clear(); }
 
   void Add(const std::vector<const wchar_t*>& commands) {
-    for (const wchar_t* command : commands) AddCommand(command);
+    for (const wchar_t* command : commands) AddCommand(command, true);
   }
   std::vector<std::wstring> Commands() const {
     std::vector<std::wstring> commands;

@@ -1,0 +1,120 @@
+// A file of lines shared by running copies of the program; see shared_file.h.
+#include "shell/shared_file.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <ctime>
+
+#include "config/replacement_file.h"
+
+namespace {
+
+// An append takes microseconds, a replacement the time of bringing it to the disk.
+constexpr int kLockAttempts = 60;
+constexpr timespec kLockPause{0, 20'000'000};
+
+constexpr off_t kLargestFile = 256 << 20;
+
+template <class Call>
+auto Uninterrupted(Call call) {
+  auto result = call();
+  while (result == -1 && errno == EINTR) result = call();
+  return result;
+}
+
+bool IsProtection(int code) { return code == EACCES || code == EPERM || code == EROFS; }
+
+// 0 for a plain file.
+int CodeOfOddFile(int fd) {
+  struct stat status;
+  if (fstat(fd, &status) != 0) return errno;
+  if (S_ISREG(status.st_mode)) return 0;
+  return S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+}
+
+}  // namespace
+
+void SharedFile::Close() {
+  if (fd >= 0) close(fd);  // and the lock goes
+  fd = -1;
+  locked = false;
+}
+
+// O_NONBLOCK: a pipe in the place of the file must not wait for its other end.
+int SharedFile::OpenPlain(int creation) {
+  Close();
+  constexpr int kFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+  const Estring bytes = ToUtf8(path);
+  fd = Uninterrupted([&] { return open(bytes.Text(), O_RDWR | O_APPEND | creation | kFlags, 0600); });
+  writable = fd >= 0;
+  if (fd < 0 && creation == 0 && IsProtection(errno))
+    fd = Uninterrupted([&] { return open(bytes.Text(), O_RDONLY | kFlags); });
+  if (fd < 0) return errno;
+  const int code = CodeOfOddFile(fd);
+  if (code != 0) Close();
+  return code;
+}
+
+bool SharedFile::IsStillThere() const {
+  struct stat opened, named;
+  return fstat(fd, &opened) == 0 && stat(ToUtf8(path).Text(), &named) == 0 && opened.st_dev == named.st_dev &&
+         opened.st_ino == named.st_ino;
+}
+
+// Who waited for a lock may have got that of a file that was replaced meanwhile,
+// and opens the new one. File systems without locks do without.
+int SharedFile::Open(const Westring& name, int creation) {
+  path = name;
+  for (int attempt = 0; attempt < kLockAttempts; ++attempt) {
+    if (const int code = OpenPlain(creation)) return code;
+    locked = flock(fd, LOCK_EX | LOCK_NB) == 0;
+    if (locked && IsStillThere()) return 0;
+    if (!locked && errno != EWOULDBLOCK) return 0;
+    if (!locked) nanosleep(&kLockPause, nullptr);
+  }
+  return EBUSY;
+}
+
+int SharedFile::OpenToRead(const Westring& name) { return Open(name, 0); }
+int SharedFile::OpenToAppend(const Westring& name) { return Open(name, O_CREAT); }
+
+int SharedFile::Read(std::string& content) {
+  constexpr size_t kStep = 1 << 16;
+  content.clear();
+  for (off_t at = 0;;) {
+    if (at > kLargestFile) return EFBIG;
+    content.resize(static_cast<size_t>(at) + kStep);
+    const ssize_t got = Uninterrupted([&] { return pread(fd, content.data() + at, kStep, at); });
+    if (got < 0) return errno;
+    at += got;
+    content.resize(static_cast<size_t>(at));
+    if (got == 0) return 0;
+  }
+}
+
+int SharedFile::Append(std::string_view lines) {
+  const off_t size = lseek(fd, 0, SEEK_END);
+  char last = '\n';
+  if (size > 0 && Uninterrupted([&] { return pread(fd, &last, 1, size - 1); }) < 0) return errno;
+  const bool isCut = last != '\n' && last != '\r' && last != 0;
+  const std::string bytes = (isCut ? "\r\n" : "") + std::string(lines);
+  const ssize_t written = Uninterrupted([&] { return write(fd, bytes.data(), bytes.size()); });
+  if (written == static_cast<ssize_t>(bytes.size())) return 0;
+  const int code = written < 0 ? errno : ENOSPC;
+  // A full disk took a part. Without the lock others may have written behind it.
+  if (written > 0 && locked) [[maybe_unused]]
+    const int ignored = ftruncate(fd, size);
+  return code;
+}
+
+int SharedFile::Replace(std::string_view content) {
+  if (!writable) return EACCES;
+  ReplacementFile replacement;
+  if (const int code = replacement.Open(path)) return code;
+  if (const int code = replacement.File().Write(content.data(), content.size())) return code;
+  return replacement.Commit();
+}
