@@ -3,8 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
+#include "unit/shell/awkward_names.h"
 #include "unit/shell/shell_output.h"
 
 namespace {
@@ -16,56 +15,6 @@ std::wstring Quoted(const std::wstring& text) { return ShellQuote(text.c_str()).
 std::wstring Unquoted(const std::wstring& text) { return Unquote(text.c_str()).Text(); }
 
 bool IsControl(wchar_t c) { return c < 32 || c == 127; }
-
-// Every character of one byte at each place of a name, and all of them together.
-std::vector<std::wstring> AwkwardNames() {
-  std::vector<std::wstring> names;
-  std::wstring all;
-  for (wchar_t c = 1; c < 256; ++c) {
-    const std::wstring one(1, c);
-    for (const std::wstring& name : {one, L"a" + one, one + L"b", L"a" + one + L"b", one + one, L"-" + one})
-      names.push_back(name);
-    all += one;
-  }
-  names.push_back(all);
-  for (const wchar_t* name : {L"-",
-                              L"-rf",
-                              L"--",
-                              L"  both ends  ",
-                              L"$HOME",
-                              L"~root",
-                              L"\\\n",
-                              L"'\n'",
-                              L"\n'\n",
-                              L"a=b",
-                              L"A=$B",
-                              L"$'\\n'",
-                              L"\"\n\"",
-                              L"{a,b}",
-                              L"%1",
-                              L"#!x",
-                              L"\x4E16\x1F600\xE9",
-                              L"..",
-                              L"\t \t",
-                              L"\r\n"})
-    names.push_back(name);
-  return names;
-}
-
-// Names of up to 60 characters, half of them from those that shells look at.
-std::vector<std::wstring> RandomNames(int count) {
-  constexpr wchar_t kFavoured[] = L" !$~`[]{}()\\'\"<>&|;*?#=^%\n\t\r\x01\x7F-";
-  std::mt19937 random(20240305);
-  std::vector<std::wstring> names;
-  while (static_cast<int>(names.size()) < count) {
-    std::wstring name;
-    for (unsigned length = 1 + random() % 60; name.size() < length;)
-      name += random() % 2 ? kFavoured[random() % (std::size(kFavoured) - 1)]
-                           : static_cast<wchar_t>(1 + random() % (random() % 8 ? 255 : 0x2FFF));
-    names.push_back(name);
-  }
-  return names;
-}
 
 // What the program of a command line of all those names is given.
 void ExpectEachToArrive(const std::vector<std::wstring>& names) {
