@@ -43,7 +43,9 @@ int RunEscape(Shell& shell) {
 
 // The directory history has this key with Alt alone; its menu item leads here
 // without Alt and goes to the root.
-int RunAltBackslash(Shell& shell) { return shell.modifiers & kModAlt ? kRedrawNothing : GoToRoot(shell); }
+int RunAltBackslash(Shell& shell) {
+  return shell.modifiers & kModAlt ? RunDirectoryHistory(shell) : GoToRoot(shell);
+}
 
 int RunReRead(Shell& shell) {
   if (Options::CtrlRDriveChng) return RunMounts(shell, static_cast<int>(ActiveSide), false);
@@ -234,7 +236,7 @@ constexpr CommandRow kCommands[] = {
     {AltFKey(6), 0, RunMakeObjects},
     {AltFKey(7), 0, nullptr},
     {AltShiftFKey(7), 0, nullptr},
-    {AltFKey(8), 0, nullptr},
+    {AltFKey(8), 0, RunHistory},
     {AltFKey(9), 0, ToggleRows},
     {AltShiftFKey(9), 0, ToggleColumns},
     {AltFKey(10), 0, nullptr},
@@ -243,7 +245,7 @@ constexpr CommandRow kCommands[] = {
     {AltShiftFKey(3), 0, RunStyleOfActive<kStyleWide>},
     {AltShiftFKey(4), 0, RunStyleOfActive<kStyleBriefWide>},
     {AltShiftFKey(5), 0, RunStyleOfActive<kStyleUnix>},
-    {AltShiftFKey(8), 0, nullptr},
+    {AltShiftFKey(8), 0, RunDirectoryHistory},
     {CtrlShiftFKey(5), kPanelShown | kFilesPanel | kNoArchive, nullptr},
     {ShiftFKey(1), 0, RunManual},
 

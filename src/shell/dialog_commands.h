@@ -10,6 +10,8 @@ int RunFilter(Shell& shell, int side);
 
 int RunMounts(Shell& shell, int side, bool filterless);
 int RunStoredPaths(Shell& shell);
+int RunHistory(Shell& shell);           // of commands
+int RunDirectoryHistory(Shell& shell);  // takes the active panel to the one chosen
 int RunMakeObjects(Shell& shell);
 int RunGuiWindow(Shell& shell);
 int RunManual(Shell& shell);

@@ -10,6 +10,7 @@
 #include "config/values/options.h"
 #include "console/console.h"
 #include "console/toolkit.h"
+#include "dialogs/dialog_history.h"
 #include "dialogs/help.h"
 #include "foundation/code_pages.h"
 #include "foundation/environment.h"
@@ -20,11 +21,12 @@
 #include "shell/arguments.h"
 #include "shell/clock.h"
 #include "shell/exit_script.h"
+#include "shell/history_file.h"
 #include "shell/main_loop.h"
 #include "shell/screen.h"
+#include "shell/temp_names.h"
 
 namespace {
-#include "shell/temp_names.h"
 
 void ResetInput() {
   BreakState = 0;
@@ -100,9 +102,9 @@ void ClosePanels(const Arguments& arguments) {
     Panels[side].archive.reset();
     if (Panels[side].visible) Panels[side].window.reset();
   }
+  RemoveTempFiles();
   LeaveScreen();
   if (!arguments.exitScript.IsEmpty()) WriteExitScript(arguments.exitScript, scriptPath);
-  RemoveTempFiles();
 }
 
 void RefuseInternalTool(const char* what) {
@@ -135,12 +137,15 @@ int RunWithConsole(int argc, char** argv) {
   SetupLocale();
   if (!arguments.viewFile.IsEmpty() || !arguments.editFile.IsEmpty()) return RunInternalTools(arguments);
 
+  LoadHistory();
+  KeepDialogEntry = AppendDialogEntryToFile;
   OpenPanels(arguments);
   Shell shell;
   IdleHook = UpdateClock;
   RunMainLoop(shell);
   ClosePanels(arguments);  // may still ask, with the clock running
   IdleHook = nullptr;
+  KeepDialogEntry = nullptr;
   return 0;
 }
 
