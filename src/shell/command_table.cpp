@@ -17,6 +17,7 @@
 #include "shell/menu_commands.h"
 #include "shell/panel_commands.h"
 #include "shell/panel_switches.h"
+#include "shell/scrollback_viewer.h"
 
 namespace {
 
@@ -190,7 +191,7 @@ constexpr CommandRow kCommands[] = {
     {CtrlLetter('w'), kPanelShown | kFilesPanel | kNoArchive, RunGuiWindow},
     {CtrlLetter('t'), 0, nullptr},
     {CtrlLetter('y'), 0, nullptr},
-    {CtrlLetter('b'), 0, nullptr},
+    {CtrlLetter('b'), 0, RunScrollBack},
     {kCtrlPageDown, kPanelShown | kEndsSearch, OpenEntryAsArchive},
     {CtrlDigit(3), kPanelShown | kEndsSearch, OpenEntryAsArchive},
     {CtrlPadDigit(3), kPanelShown | kEndsSearch, OpenEntryAsArchive},
