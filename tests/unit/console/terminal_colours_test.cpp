@@ -49,12 +49,14 @@ TEST_F(TerminalColoursTest, BoldIsABrightForegroundAlsoOfInverse) {
   EXPECT_EQ(After({7, 1, 31}), 0x49);
   EXPECT_EQ(After({1, 22, 21}), 0x1F);  // nothing but a reset ends it
   EXPECT_EQ(After({1, 0}), 0x17);
+  EXPECT_EQ(After({1, 91}), 0x1C);
 }
 
 TEST_F(TerminalColoursTest, UnderlineIsABrightBackgroundAndEnds) {
   EXPECT_EQ(After({4}), 0x97);
   EXPECT_EQ(After({4, 7}), 0xF1);
   EXPECT_EQ(After({4, 24}), 0x17);
+  EXPECT_EQ(After({4, 101}), 0xC7);
 }
 
 TEST_F(TerminalColoursTest, ResetTakesAllBack) { EXPECT_EQ(After({1, 4, 7, 31, 42, 0}), 0x17); }
