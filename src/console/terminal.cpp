@@ -167,8 +167,11 @@ void CTerminal::TakeCharset(char byte) {
   if (byte == 'B') graphicsCharset = false;
 }
 
+// The end comes as one byte or as the two that stand for it.
 void CTerminal::TakeTitle(char byte) {
-  if (byte == kBell || byte == kTitleEnd || ++titleBytes == kMostTitleBytes) state = State::Text;
+  const bool isEnd = byte == kBell || byte == kTitleEnd || (titleEscape && byte == '\\');
+  titleEscape = byte == kEscapeByte;
+  if (isEnd || ++titleBytes == kMostTitleBytes) state = State::Text;
 }
 
 // ---- text ----------------------------------------------------------------------

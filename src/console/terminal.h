@@ -119,7 +119,8 @@ class CTerminal {
   State state = State::Text;
   Estring pending;  // a character of several bytes, so far; empty in the graphics set
   CsiSequence csi;
-  int titleBytes = 0;  // taken so far
+  int titleBytes = 0;        // taken so far
+  bool titleEscape = false;  // the last of them was an escape
 };
 
 // The bytes that a key sends; empty for a key that sends nothing.

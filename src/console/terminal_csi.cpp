@@ -43,6 +43,7 @@ void CTerminal::TakeEscape(char byte) {
       break;
     case ']':
       titleBytes = 0;
+      titleEscape = false;
       state = State::Title;
       break;
     default:
@@ -133,8 +134,8 @@ struct CsiTable {
         t.Blank(t.x, t.y, t.columns - 1, t.y);
         t.Blank(0, t.y + 1, t.columns - 1, t.rows - 1);
         break;
-      case 1:
-        t.Blank(0, t.y, t.x - 1, t.y);
+      case 1:  // unlike K, with the cursor's cell
+        t.Blank(0, t.y, std::min(t.x, t.columns - 1), t.y);
         t.Blank(0, 0, t.columns - 1, t.y - 1);
         break;
       case 2:

@@ -84,8 +84,8 @@ TEST_F(TerminalCsi, JErasesFromTheCursorDown) {
   }
 }
 
-TEST_F(TerminalCsi, J1ErasesUpToTheCursor) {
-  ExpectRows("one\r\ntwo\r\nsix\033[2;3H\033[32m\033[1J", "|  o|six|");
+TEST_F(TerminalCsi, J1ErasesUpToTheCursorAndItsCell) {
+  ExpectRows("one\r\ntwo\r\nsix\033[2;2H\033[32m\033[1J", "|  o|six|");
   EXPECT_EQ(result.At(1, 1), (Cell{' ', 0x12}));
   EXPECT_EQ(result.At(19, 0), (Cell{' ', 0x12}));
   EXPECT_EQ(result.At(3, 1), kBlank);

@@ -53,7 +53,7 @@ TEST_F(TerminalEscape, AtTheEndOfAWriteTakesEffectWithTheNext) {
 // ---- titles ------------------------------------------------------------------
 
 TEST_F(TerminalEscape, ATitleIsSkippedUpToABell) {
-  Show("a\033]0;title\r\n \033[2J\033\\ more\ab");
+  Show("a\033]0;title\r\n \033[2J more\ab");
   EXPECT_EQ(Rows(), "ab|");
   EXPECT_EQ(result.beeps, 0);
 }
@@ -61,6 +61,11 @@ TEST_F(TerminalEscape, ATitleIsSkippedUpToABell) {
 TEST_F(TerminalEscape, ATitleIsSkippedUpToTheByte9C) {
   Show("a\033]2;title\x9C\x62");
   EXPECT_EQ(Row(0), "ab");
+}
+
+TEST_F(TerminalEscape, ATitleIsSkippedUpToAnEscapeWithABackslash) {
+  Show("a\033]8;;file:///x\033\\b\033]2;\033x\\y\033\033\\c");
+  EXPECT_EQ(Row(0), "abc");
 }
 
 TEST_F(TerminalEscape, ATitleWithoutAnEndGivesWayToText) {
