@@ -65,18 +65,22 @@ bool SharedFile::IsStillThere() const {
          opened.st_ino == named.st_ino;
 }
 
-// Who waited for a lock may have got that of a file that was replaced meanwhile,
-// and opens the new one. File systems without locks do without.
+// Who waited for the lock may have got that of a file that was replaced
+// meanwhile, and opens the new one. File systems without locks do without.
 int SharedFile::Open(const Westring& name, int creation) {
   path = name;
-  for (int attempt = 0; attempt < kLockAttempts; ++attempt) {
-    if (const int code = OpenPlain(creation)) return code;
+  int code = OpenPlain(creation);
+  for (int attempt = 0; code == 0 && attempt < kLockAttempts; ++attempt) {
     locked = flock(fd, LOCK_EX | LOCK_NB) == 0;
-    if (locked && IsStillThere()) return 0;
     if (!locked && errno != EWOULDBLOCK) return 0;
-    if (!locked) nanosleep(&kLockPause, nullptr);
+    if (locked && IsStillThere()) return 0;
+    if (locked)
+      code = OpenPlain(creation);
+    else
+      nanosleep(&kLockPause, nullptr);
   }
-  return EBUSY;
+  if (code == 0) code = OpenPlain(creation);  // the file of now, without its lock
+  return code != 0 ? code : EBUSY;
 }
 
 int SharedFile::OpenToRead(const Westring& name) { return Open(name, 0); }

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -165,8 +166,12 @@ TEST_F(HistoryCopies, WhoWaitedForTheLockAppendsToTheFileThatHasTakenThePlace) {
   WriteFile("old\r\n");
   const int holder = open(Path().c_str(), O_RDWR | O_CLOEXEC);
   ASSERT_EQ(flock(holder, LOCK_EX), 0);
-  std::thread waiting([] { AppendCommandToFile(L"new"); });
-  while (TimesOpen() < 2) std::this_thread::yield();
+  std::atomic<bool> done = false;
+  std::thread waiting([&] {
+    AppendCommandToFile(L"new");
+    done = true;
+  });
+  while (TimesOpen() < 2 && !done) std::this_thread::yield();
   home.Write("replacement", "replaced\r\n");
   fs::rename(home.Path("replacement"), Path());
   close(holder);
