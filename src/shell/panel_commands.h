@@ -2,7 +2,6 @@
 // returns what is to be painted.
 #pragma once
 
-#include "shell/execute.h"
 #include "shell/shell.h"
 
 int GoFirst(Shell& shell);
