@@ -2,6 +2,8 @@
 // the console's terminal.
 #include "shell/spawn.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -17,7 +19,12 @@ BuiltInCommands TheBuiltIns;
 
 namespace {
 
-constexpr char kLoader[] = "/lib/ld-linux-x86-64.so.2";
+// The second one is where today's systems have it.
+constexpr const char* kLoaders[] = {
+    "/lib/ld-linux-x86-64.so.2",
+    "/lib64/ld-linux-x86-64.so.2",
+    "/lib/ld-linux-aarch64.so.1",
+};
 
 bool RunBuiltIn(const CommandWords& words) {
   struct Row {
@@ -41,21 +48,39 @@ bool HoldsText(FILE* lines, const char* text) {
   return found;
 }
 
+// A pipe or a device would keep the loader waiting.
+bool IsRegularFile(const Estring& path) {
+  struct stat status;
+  return stat(path.Text(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+// In a child: lists the libraries of program. What it has to say about files that
+// are no programs is for nobody.
+[[noreturn]] void BecomeLoader(const Estring& program, int output) {
+  dup2(output, STDOUT_FILENO);
+  const int nothing = open("/dev/null", O_WRONLY);
+  if (nothing >= 0) dup2(nothing, STDERR_FILENO);
+  CloseInherited();
+  for (const char* loader : kLoaders) execl(loader, loader, "--list", program.Text(), nullptr);
+  _exit(EXIT_FAILURE);
+}
+
+int Detach(const Westring& command) {
+  if (StartDetached(command)) return 0;
+  TellForkFailed();
+  return -1;
+}
+
 }  // namespace
 
 // A script is no program of the loader's, which then lists nothing.
 bool LinksX11(const Westring& path) {
   const Estring program = ToUtf8(path);
+  if (!IsRegularFile(program)) return false;
   int ends[2];
   if (pipe(ends) != 0) return false;
   const pid_t child = fork();
-  if (child == 0) {
-    dup2(ends[1], STDOUT_FILENO);
-    close(ends[0]);
-    close(ends[1]);
-    execl(kLoader, kLoader, "--list", program.Text(), nullptr);
-    _exit(EXIT_FAILURE);
-  }
+  if (child == 0) BecomeLoader(program, ends[1]);
   close(ends[1]);
   FILE* const lines = child > 0 ? fdopen(ends[0], "r") : nullptr;
   if (!lines) {
@@ -74,8 +99,7 @@ int SpawnCommand(const Westring& text, int) {
   Westring program;
   if (!words.forceTerminal && FindProgram(words.program, program) &&
       (words.background || LinksX11(program))) {
-    StartDetached(words.command);
-    return 0;
+    return Detach(words.command);
   }
   // Also for a program that was not found: the shell tells why.
   return RunOnTerminal(words.command);

@@ -40,10 +40,13 @@ class Descriptor {
 };
 
 // While it lives SIGCHLD is held back from this thread, so that nothing but the
-// pump collects the child.
+// pump collects the child. Ignored, as some parents leave it to us, it would have
+// the kernel do so.
 class ChildSignalHeld {
  public:
   ChildSignalHeld() {
+    struct sigaction action;
+    if (sigaction(SIGCHLD, nullptr, &action) == 0 && action.sa_handler == SIG_IGN) signal(SIGCHLD, SIG_DFL);
     sigset_t set;
     sigemptyset(&set);
     sigaddset(&set, SIGCHLD);
@@ -63,11 +66,14 @@ int64_t NowMs() {
   return int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1000000;
 }
 
-// Text is UTF-8, and the erase key sends a backspace.
+// As large as the console. Text is UTF-8, and the erase key sends a backspace.
 bool OpenTerminal(Descriptor& master, Descriptor& slave) {
+  int columns = 0, rows = 0;
+  Console->GetSize(columns, rows);
+  Console->SetCursor(0, rows - 1);
   winsize size{};
-  size.ws_row = static_cast<unsigned short>(ScreenRows);
-  size.ws_col = static_cast<unsigned short>(ScreenColumns);
+  size.ws_row = static_cast<unsigned short>(rows);
+  size.ws_col = static_cast<unsigned short>(columns);
   if (openpty(&master.fd, &slave.fd, nullptr, nullptr, &size) != 0) return false;
   fcntl(master.fd, F_SETFD, FD_CLOEXEC);
   termios modes;
@@ -79,7 +85,14 @@ bool OpenTerminal(Descriptor& master, Descriptor& slave) {
   return true;
 }
 
+// What somebody who started us in the background had us ignore, the user's keys
+// must do again.
+void StopIgnoringSignals() {
+  for (int number = 1; number < NSIG; ++number) signal(number, SIG_DFL);
+}
+
 [[noreturn]] void BecomeShell(const ShellCall& call, int slave) {
+  StopIgnoringSignals();
   setsid();
   ioctl(slave, TIOCSCTTY, 0);
   for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(slave, fd);
@@ -139,6 +152,7 @@ class Pump {
   // Nobody has the terminal open. The child has just ended, most likely; or it
   // goes on without, and there is nothing to wait for but its end.
   void Rest() {
+    Paint();
     poll(nullptr, 0, restMs);
     restMs = std::min(restMs * 2, kPatienceMs);
   }
@@ -157,8 +171,9 @@ class Pump {
 
 }  // namespace
 
+void TellForkFailed() { Prompt(L"Error forking child process", SystemError(errno).Text(), kPromptOk); }
+
 int RunOnTerminal(const Westring& command) {
-  Console->SetCursor(0, ScreenRows - 1);
   Descriptor master, slave;
   if (!OpenTerminal(master, slave)) return -1;
   const ShellCall call(command);
@@ -166,7 +181,7 @@ int RunOnTerminal(const Westring& command) {
   const pid_t child = fork();
   if (child == 0) BecomeShell(call, slave.fd);
   if (child < 0) {
-    Prompt(L"Error forking child process", SystemError(errno).Text(), kPromptOk);
+    TellForkFailed();
     return -1;
   }
   Console->AttachTerminal(master.fd);

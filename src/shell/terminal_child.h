@@ -8,3 +8,6 @@
 // -1 if a signal ended it or there is no terminal to be had. Keys go to the child
 // meanwhile.
 int RunOnTerminal(const Westring& command);
+
+// Tells the user why, by errno, no process could be made.
+void TellForkFailed();
