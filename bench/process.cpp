@@ -57,6 +57,13 @@ long Process::Sleeps() const {
   return sleeps;
 }
 
+double Process::ResidentBytes() const {
+  std::ifstream sizes("/proc/" + std::to_string(pid) + "/statm");
+  double whole = 0, resident = 0;
+  sizes >> whole >> resident;
+  return resident * static_cast<double>(sysconf(_SC_PAGESIZE));
+}
+
 double NumberPrintedBy(const std::string& command) {
   double number = 0;
   FILE* const output = popen(command.c_str(), "r");

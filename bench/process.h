@@ -16,6 +16,7 @@ class Process {
 
   // How often its threads have gone to sleep so far.
   long Sleeps() const;
+  double ResidentBytes() const;  // of memory
 
  private:
   pid_t pid;

@@ -28,6 +28,10 @@ void Scratch::Write(const std::string& name, const std::string& content) const {
   std::ofstream(path) << content;
 }
 
+void Scratch::MakeDirectory(const std::string& name) const {
+  std::filesystem::create_directories(Path(name));
+}
+
 void Scratch::MakeEmptyFile(const std::string& name) const {
   const int file = open(Path(name).c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0644);
   if (file < 0) {

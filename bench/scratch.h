@@ -13,6 +13,7 @@ class Scratch {
   std::string Path(const std::string& name = "") const { return name.empty() ? root : root + "/" + name; }
   // Makes the directories above it.
   void Write(const std::string& name, const std::string& content) const;
+  void MakeDirectory(const std::string& name) const;
   void MakeEmptyFile(const std::string& name) const;  // in a directory that is there
 
  private:
