@@ -34,6 +34,9 @@ class CEventQueue : public TObjectStore<TEvent> {
   // waiting; other events stay. Lets long work be cancelled without losing
   // what was typed ahead.
   bool TakeEscape();
+  // Nobody gets the drags and the release of a left button that is down, for
+  // what its press or double click brought about must not be clicked by them.
+  void DropRestOfClick();
   bool IsPending();
 
   // True once the application waits here and nothing is queued: all input has
@@ -42,6 +45,7 @@ class CEventQueue : public TObjectStore<TEvent> {
 
  private:
   TEvent* Take();
+  bool IsDropped(const TEvent& event);
   void BeginWait();
   void EndWait();
 
@@ -49,4 +53,5 @@ class CEventQueue : public TObjectStore<TEvent> {
   Event arrived;
   Event drained;  // set while a reader waits and nothing is queued
   bool readerWaits = false;
+  bool dropsClick = false;  // the application thread's
 };
