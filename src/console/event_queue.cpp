@@ -41,14 +41,13 @@ TEvent* CEventQueue::Get(uint32_t timeoutMs) {
 TEvent* CEventQueue::Take() {
   MutexLock lock(mutex);
   First();
-  while (Current() != nullptr && IsDropped(*Current())) Remove();
   return Detach();
 }
 
 void CEventQueue::DropRestOfClick() { dropsClick = true; }
 
 // The release may have been lost to a terminal, so that a press ends it too.
-bool CEventQueue::IsDropped(const TEvent& event) {
+bool CEventQueue::IsRestOfClick(const TEvent& event) {
   if (!dropsClick || event.code != kLeftButton) return false;
   if (event.type == kEventPress || event.type == kEventRelease) dropsClick = false;
   return event.type == kEventMotion || event.type == kEventRelease;

@@ -34,9 +34,11 @@ class CEventQueue : public TObjectStore<TEvent> {
   // waiting; other events stay. Lets long work be cancelled without losing
   // what was typed ahead.
   bool TakeEscape();
-  // Nobody gets the drags and the release of a left button that is down, for
-  // what its press or double click brought about must not be clicked by them.
+  // From here the drags and the release of a left button that is down mean
+  // nothing: what its press or double click brought about must not be clicked
+  // by them. To be asked about each event that has been taken, once.
   void DropRestOfClick();
+  bool IsRestOfClick(const TEvent& event);
   bool IsPending();
 
   // True once the application waits here and nothing is queued: all input has
@@ -45,7 +47,6 @@ class CEventQueue : public TObjectStore<TEvent> {
 
  private:
   TEvent* Take();
-  bool IsDropped(const TEvent& event);
   void BeginWait();
   void EndWait();
 

@@ -17,11 +17,6 @@ int TakeCode(CEventQueue& queue) {
   return event != nullptr ? event->code : -1;
 }
 
-int TakeType(CEventQueue& queue) {
-  const std::unique_ptr<TEvent> event(queue.Get(0));
-  return event != nullptr ? event->type : -1;
-}
-
 }  // namespace
 
 TEST(EventQueue, GivesEventsInTheirOrder) {
@@ -93,40 +88,6 @@ TEST(EventQueue, WithoutEscapeEverythingStays) {
   EXPECT_FALSE(queue.TakeEscape());
   EXPECT_EQ(TakeCode(queue), 'a');
   EXPECT_EQ(TakeCode(queue), kEscape);
-}
-
-TEST(EventQueue, TheRestOfAClickIsDroppedUpToItsReleaseAndNothingElse) {
-  CEventQueue queue;
-  queue.DropRestOfClick();
-  for (const EventType type : {kEventMotion, kEventKey, kEventWheel, kEventMotion, kEventRelease}) {
-    queue.Put(new TEvent{type, 1});
-  }
-  queue.Put(new TEvent{kEventRelease, 1, 0, 0, 7});
-  EXPECT_EQ(TakeType(queue), kEventKey);
-  EXPECT_EQ(TakeType(queue), kEventWheel);
-  const std::unique_ptr<TEvent> next(queue.Get(0));
-  ASSERT_NE(next, nullptr);
-  EXPECT_EQ(next->x, 7);
-}
-
-TEST(EventQueue, TheRestOfAClickEndsWithTheNextPressIfItsReleaseGotLost) {
-  CEventQueue queue;
-  queue.DropRestOfClick();
-  for (const EventType type : {kEventPress, kEventMotion, kEventRelease}) queue.Put(new TEvent{type, 1});
-  EXPECT_EQ(TakeType(queue), kEventPress);
-  EXPECT_EQ(TakeType(queue), kEventMotion);
-  EXPECT_EQ(TakeType(queue), kEventRelease);
-}
-
-TEST(EventQueue, TheRestOfAClickOfOneButtonLeavesTheOthers) {
-  CEventQueue queue;
-  queue.DropRestOfClick();
-  for (const EventType type : {kEventPress, kEventMotion, kEventRelease}) queue.Put(new TEvent{type, 2});
-  queue.Put(new TEvent{kEventRelease, 1});
-  EXPECT_EQ(TakeType(queue), kEventPress);
-  EXPECT_EQ(TakeType(queue), kEventMotion);
-  EXPECT_EQ(TakeType(queue), kEventRelease);
-  EXPECT_EQ(TakeType(queue), -1);
 }
 
 TEST(EventQueue, IsNotDrainedWhileNobodyReads) {
