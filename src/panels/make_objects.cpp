@@ -153,7 +153,7 @@ void MakeForTags(TPanel& panel) {
 
 void MakeForName(TPanel& panel, const Westring& name) {
   const Westring path = FullPath(panel, name);
-  FileKind kind;
+  FileKind kind = FileKind::Other;
   if (const int code = KindOf(path, kind)) return ShowPathError(code, path);
 
   const Westring caption = L"Make an object for ";
@@ -190,7 +190,7 @@ int MakeDesktopFile(TPanel& panel, const Westring& name, const Westring& title, 
   launcher.title = title;
   launcher.target = FullPath(panel, name);
   launcher.terminal = terminal;
-  FileKind kind;
+  FileKind kind = FileKind::Other;
   if (const int code = KindOf(launcher.target, kind)) return code;
   launcher.isExecutable = kind == FileKind::Executable;
   return WriteLauncher(LauncherPath(title), LauncherText(launcher));
