@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int kLeftButton = 1;
+
 bool IsEscape(const TEvent& event) { return event.type == kEventKey && event.code == kEscape; }
 
 }  // namespace
@@ -40,6 +42,15 @@ TEvent* CEventQueue::Take() {
   MutexLock lock(mutex);
   First();
   return Detach();
+}
+
+void CEventQueue::DropRestOfClick() { dropsClick = true; }
+
+// The release may have been lost to a terminal, so that a press ends it too.
+bool CEventQueue::IsRestOfClick(const TEvent& event) {
+  if (!dropsClick || event.code != kLeftButton) return false;
+  if (event.type == kEventPress || event.type == kEventRelease) dropsClick = false;
+  return event.type == kEventMotion || event.type == kEventRelease;
 }
 
 void CEventQueue::BeginWait() {

@@ -34,6 +34,11 @@ class CEventQueue : public TObjectStore<TEvent> {
   // waiting; other events stay. Lets long work be cancelled without losing
   // what was typed ahead.
   bool TakeEscape();
+  // From here the drags and the release of a left button that is down mean
+  // nothing: what its press or double click brought about must not be clicked
+  // by them. To be asked about each event that has been taken, once.
+  void DropRestOfClick();
+  bool IsRestOfClick(const TEvent& event);
   bool IsPending();
 
   // True once the application waits here and nothing is queued: all input has
@@ -49,4 +54,5 @@ class CEventQueue : public TObjectStore<TEvent> {
   Event arrived;
   Event drained;  // set while a reader waits and nothing is queued
   bool readerWaits = false;
+  bool dropsClick = false;  // the application thread's
 };

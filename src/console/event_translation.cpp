@@ -67,7 +67,7 @@ bool TranslateMouse(const TEvent& event, TMouseEvent& mouse) {
 
 bool TakeEvent(CEventQueue& queue, TEvent& event, uint32_t timeoutMs) {
   const std::unique_ptr<TEvent> taken(queue.Get(timeoutMs));
-  if (taken == nullptr) return false;
+  if (taken == nullptr || queue.IsRestOfClick(*taken)) return false;
   event = *taken;
   return true;
 }

@@ -12,7 +12,8 @@ Key KeyOfEvent(const TEvent& event);
 // False if a mouse event means nothing to the program; mouse is then as it was.
 bool TranslateMouse(const TEvent& event, TMouseEvent& mouse);
 
-// Copies the next event out of the queue; false if none came in time.
+// Copies the next event out of the queue; false if none came in time, or one
+// that is the rest of a click to be dropped.
 bool TakeEvent(CEventQueue& queue, TEvent& event, uint32_t timeoutMs);
 
 // ReadKey() and CheckEscape() on a given queue.

@@ -96,7 +96,9 @@ class Dialog : public Win {
   uint8_t Colour(DialogColour which) const { return colours[which]; }
   void CommitAll();
   void SetHotLetters(const char* letters, int n);
-  // From another thread: lets element i handle an event.
+  // From another thread: lets element i handle an event. Waits while the dialog
+  // handles one itself, with all that opens on top of it meanwhile: a handler
+  // must not wait for the sender.
   int SendEvent(int i, const DialogEvent& event);
 
   // Takes a new element, which is the dialog's from here, and returns its

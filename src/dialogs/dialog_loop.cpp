@@ -24,18 +24,6 @@ DialogEventType TypeOfMouse(const TMouseEvent& mouse) {
   return known ? kMouseEvents[mouse.kind] : kDropped;
 }
 
-// A dialog that a double click ended has the release of that click still to
-// come. It must not press what the dialog had covered, nor what the next one
-// brings under the pointer.
-bool ReleaseIsOwed = false;
-
-bool IsRestOfClick(const DialogEvent& event) {
-  const bool isRest = event.type == kDialogLeftDrag || event.type == kDialogLeftRelease;
-  const bool dropped = ReleaseIsOwed && isRest;
-  if (event.type == kDialogLeftPress || event.type == kDialogLeftRelease) ReleaseIsOwed = false;
-  return dropped;
-}
-
 // A dialog of mere texts could not be left by a key of its own.
 bool HasControls(const Dialog& dialog) {
   for (int i = 0; i < dialog.Count(); ++i) {
@@ -107,12 +95,13 @@ int Dialog::Run(int timeoutMs) {
     DialogEvent event;
     GetDialogEvent(event, timeoutMs);
     if (event.type == kDialogTimeOut) return 0;
-    if (IsRestOfClick(event)) continue;
     event.x -= originX;
     event.y -= originY;
     MutexLock guard(lock);
     Handle(event);
-    if (result != 0 && event.type == kDialogLeftDouble) ReleaseIsOwed = true;
+    // The release is still to come. It must not press what the dialog had
+    // covered, nor what the next one brings under the pointer.
+    if (result != 0 && event.type == kDialogLeftDouble) Console->Events().DropRestOfClick();
   }
   return result;
 }

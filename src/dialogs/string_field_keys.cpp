@@ -83,7 +83,7 @@ int StringField::CharacterRight() const { return std::min(cursor + 1, End()); }
 int StringField::WordLeft() const { return WordStart(*text, cursor); }
 
 int StringField::WordRight() const {
-  return cursor + WordEnd(text->Text() + cursor, Options::BriefWordRight);
+  return cursor + NextWord(text->Text() + cursor, Options::BriefWordRight);
 }
 
 void StringField::Replace(Range range, const Westring& with) {

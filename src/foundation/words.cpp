@@ -11,9 +11,14 @@ int WordStart(const Westring& line, int cursor) {
   return i;
 }
 
-int WordEnd(const wchar_t* text, bool brief) {
-  int i = *text && !brief ? 1 : 0;
+int NextWord(const wchar_t* text, bool brief) {
+  int i = 0;
   while (text[i] && IsWordChar(text[i]) != brief) ++i;
   while (text[i] && IsWordChar(text[i]) == brief) ++i;
   return i;
+}
+
+int WordEnd(const wchar_t* text, bool brief) {
+  const int step = *text && !brief ? 1 : 0;
+  return step + NextWord(text + step, brief);
 }

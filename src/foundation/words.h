@@ -7,6 +7,10 @@
 // line starts there.
 int WordStart(const Westring& line, int cursor);
 
-// How far Ctrl-Right goes from the start of text: behind the next word with
-// brief, otherwise to its start and at least one character.
+// How far it is from the start of text behind the next word with brief,
+// otherwise to the start of the next word.
+int NextWord(const wchar_t* text, bool brief);
+
+// The same for the command line, where the way to a word's start begins with
+// a step over the first character, whatever that is.
 int WordEnd(const wchar_t* text, bool brief);

@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int kLineSize = 1024;
+constexpr int kEndOfFile = -1;  // of StdFile
 
 bool IsOctal(char ch, char highest) { return ch >= '0' && ch <= highest; }
 
@@ -69,18 +70,17 @@ void SkipRest(StdFile& file, const char* line) {
 bool ReadMountTable(const char* table, CMountPointList& list, bool all) {
   list.Clear();
   StdFile file;
-  if (file.Open(table, kOpenRead) != 0) {
-    errno = file.Error();
-    return false;
-  }
-  for (;;) {
-    char line[kLineSize];
-    file.ReadLine(line, kLineSize);
-    if (!*line && file.Error() != 0) return true;
+  char line[kLineSize];
+  int code = file.Open(table, kOpenRead);
+  while (code == 0 && (code = file.ReadLine(line, kLineSize)) == 0) {
     SkipRest(file, line);
     std::unique_ptr<TMountPoint> mount = ParseMount(line);
     if (mount && (all || !IsPseudo(*mount))) list.Append(mount.release());
   }
+  if (code == kEndOfFile) return true;
+  list.Clear();
+  errno = code;
+  return false;
 }
 
 bool ReadMounts(CMountPointList& list, bool all) { return ReadMountTable(kMountTable, list, all); }

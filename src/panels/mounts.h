@@ -15,7 +15,7 @@ constexpr char kMountTable[] = "/etc/mtab";
 
 // Reads the mount table in its order. Without all, "tmpfs" and file systems
 // with no blocks are left out. False, with the reason in errno and an empty
-// list, if the table can't be opened.
+// list, if the table can't be read.
 bool ReadMounts(CMountPointList& list, bool all);
 
 // The same from any file in the form of the mount table.

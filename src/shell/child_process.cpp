@@ -147,11 +147,14 @@ void ShellCall::Set(const char* name, const Estring& value) {
     variables.push_back(variable);
 }
 
-// What a caller holds back for itself, a new program must get.
+// What a caller holds back for itself, a new program must get; and what the toolkit
+// ignores, too, or the first command of a pipe would outlive the last one.
 void ShellCall::Execute() const {
-  sigset_t none;
-  sigemptyset(&none);
-  sigprocmask(SIG_SETMASK, &none, nullptr);
+  struct sigaction action {};
+  action.sa_handler = SIG_DFL;
+  sigemptyset(&action.sa_mask);
+  sigaction(SIGPIPE, &action, nullptr);
+  sigprocmask(SIG_SETMASK, &action.sa_mask, nullptr);
   if (hasShell) {
     char option[] = "-c";
     char* const arguments[] = {const_cast<char*>(shell.Text()), option, const_cast<char*>(command.Text()),

@@ -91,14 +91,14 @@ int SwapPanels(Shell& shell) {
 int SetStyle(Shell& shell, int side, int style) {
   TPanel& panel = Panels[side];
   if (panel.style == style && panel.IsFiles()) return kRedrawNothing;
-  const bool readsAgain = panel.style == kStyleTree || style == kStyleTree || !panel.IsFiles();
+  const bool otherListing = panel.style == kStyleTree || style == kStyleTree;
   panel.style = style;
   panel.panelType = kPanelFiles;
   if (!panel.visible) {
     MakePanelWindow(panel, side);
     UpdateSelectableRegion();
   }
-  if (readsAgain || panel.readPending) ReadPanel(panel);
+  if (otherListing || panel.readPending) ReadPanel(panel);
   DrawPanel(panel);
   ActivateSide(static_cast<int>(ActiveSide));
   shell.cursorDirty = true;

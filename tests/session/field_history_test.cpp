@@ -169,16 +169,34 @@ TEST_F(FieldHistoryTest, AClickBesideTheListCancelsTheListAlone) {
   EXPECT_EQ(Text(), "text");
 }
 
+TEST_F(FieldHistoryTest, AnyOtherEventOfTheButtonOnTheArrowOpensTheListToo) {
+  for (const EventType type : {kEventMotion, kEventRelease, kEventDoubleClick}) {
+    Renew();
+    AddSearch(L"text");
+    Mouse(type, 1, kArrow, kY);
+    Keys("Home Enter");
+    Press("");
+    EXPECT_EQ(Text(), "one") << type;
+  }
+}
+
+// The button stands where the first item of the list will be.
 TEST_F(FieldHistoryTest, ADoubleClickInTheListPressesNothingBelowIt) {
+  constexpr int kItemX = kX + 2, kItemY = kY + 2;
   AddSearch(L"text");
-  dialog->AddButton(2, 3, true, 'y', "_Yes");  // under the second item
+  dialog->AddButton(2, 3, true, 'y', "_Yes");
   Keys("Alt-Down");
-  Click(kX + 2, kY + 3 - 1);
-  Mouse(kEventPress, 1, kX + 2, kY + 3 - 1);
-  Mouse(kEventDoubleClick, 1, kX + 2, kY + 3 - 1);
-  Mouse(kEventRelease, 1, kX + 2, kY + 3 - 1);
-  Press("");
-  EXPECT_EQ(Text(), "one");
+  Click(kItemX, kItemY);
+  Mouse(kEventPress, 1, kItemX, kItemY);
+  Mouse(kEventDoubleClick, 1, kItemX, kItemY);
+  Mouse(kEventMotion, 1, kItemX, kItemY);
+  Mouse(kEventRelease, 1, kItemX, kItemY);
+  Then([&] {
+    EXPECT_EQ(dialog->Result(), 0);
+    EXPECT_EQ(Text(), "one");
+  });
+  Click(kItemX, kItemY);  // the next click is the button's
+  EXPECT_EQ(dialog->Run(), 'y');
 }
 
 TEST_F(FieldHistoryTest, NearTheBottomOfTheScreenTheListStandsAboveTheField) {

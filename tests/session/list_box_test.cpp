@@ -234,6 +234,14 @@ TEST_F(ListTest, InAListOfAnyKeyEachOneWithoutUseEndsTheDialog) {
   EXPECT_FALSE(list->HasSearchBox());
 }
 
+TEST_F(ListTest, OnlyMinusOneMeansAnyKeyAndAllBelowOneMeansTheDefault) {
+  Fill(3);
+  AddList(10, 3, -2);
+  dialog->AddButton(2, 6, true, 'y', "_Yes");
+  Keys("F5 Enter");
+  EXPECT_EQ(dialog->Run(), 'y');
+}
+
 TEST_F(ListTest, OtherKeysGoOnToTheDialog) {
   Fill(3);
   AddList(10, 3);

@@ -115,6 +115,19 @@ TEST_F(ListMouseTest, InAListOfAnyKeyTheReleaseOnAnItemAccepts) {
   EXPECT_EQ(dialog->Run(), 'y');
 }
 
+// The release that belongs to the double click must not accept the next one.
+TEST_F(ListMouseTest, InAListOfAnyKeyADoubleClickAcceptsOnce) {
+  Fill(2);
+  AddList(10, 4, kListAnyKey);
+  dialog->AddButton(2, 6, true, 'y', "_Yes");
+  Mouse(kEventDoubleClick, 1, kX, kY + 1);
+  EXPECT_EQ(dialog->Run(), 'y');
+  Mouse(kEventRelease, 1, kX, kY);
+  ExpectItem(1);
+  Keys("Esc");
+  EXPECT_EQ(dialog->Run(), kEscape);
+}
+
 TEST_F(ListMouseTest, InOtherListsTheReleaseEndsNothing) {
   Fill(2);
   AddList(10, 4, 77);

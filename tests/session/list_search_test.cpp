@@ -64,6 +64,16 @@ TEST_F(ListSearchTest, AKeyWithoutMatchIsDroppedAndTheSearchGoesOn) {
   dialog->Run();
 }
 
+TEST_F(ListSearchTest, AKeyWithoutMatchAsksForEachItemOnce) {
+  for (int i = 0; i < 1000; ++i) items.Add(L"item");
+  AddList(10, 3);
+  Then([&] { list->asked = 0; });
+  Keys("x");
+  Then([&] { EXPECT_LE(list->asked, 1000 + 2); });  // and for the cursor's row, which is drawn
+  Keys("Esc");
+  dialog->Run();
+}
+
 TEST_F(ListSearchTest, AKeyWithoutMatchIsLeftToTheDialog) {
   Fill({L"one", L"two"});
   AddList(10, 3);

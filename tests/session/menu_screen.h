@@ -5,6 +5,7 @@
 
 #include "config/values/colours.h"
 #include "config/values/options.h"
+#include "foundation/code_pages.h"
 #include "panels/panel.h"
 #include "shell/menu.h"
 #include "support/console_fixture.h"
@@ -14,6 +15,7 @@ class MenuScreen : public ConsoleFixture {
  protected:
   MenuScreen() {
     Panels = panels;
+    BuildCaseTables();  // which the marks' character waits for
     Options::Clock = false;
     Options::Shadows = true;
     for (int i = 0; i < kColourCount; ++i) Options::Colours[i] = kDefaultColours[i];

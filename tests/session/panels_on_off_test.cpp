@@ -295,6 +295,24 @@ TEST(InfoPanel, KeysOfTheListDoNothingThere) {
   EXPECT_EQ(s.Attribute(41, 2), 0x1B);
 }
 
+TEST(InfoPanel, AStyleShowsTheListingFromBeforeTheInformation) {
+  Session s(kFiles);
+  const auto before = s.Names(kRightSide);
+  s.Keys("Ctrl-L");
+  s.Write("right/new", "");
+  s.Command(0x10000E);
+  EXPECT_EQ(s.Names(kRightSide), before);
+}
+
+TEST(InfoPanel, AStyleReadsWhatWasOwedMeanwhile) {
+  Session s(kFiles);
+  s.Keys("Ctrl-L");
+  s.Write("right/.new", "");
+  s.Keys("Ctrl-H");
+  s.Command(0x10000E);
+  EXPECT_EQ(s.Names(kRightSide)[1], ".new");
+}
+
 TEST(InfoPanel, AStyleTurnsItIntoFilesAgain) {
   Session s(kFiles);
   s.Keys("Ctrl-L Tab Alt-Shift-F2");

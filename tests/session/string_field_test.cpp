@@ -216,6 +216,9 @@ TEST_F(FieldTest, MovesByWordsToTheirStartOnTheRightIfSet) {
   AddField(L"copy the/file ");
   Press("Ctrl-Right 1 Ctrl-Left Ctrl-Right 2 Ctrl-Right 3");
   EXPECT_EQ(Text(), "copy 1the/2file 3");
+  text = L"/etc/x";
+  Press("Home Ctrl-Right 1 Ctrl-Right 2");
+  EXPECT_EQ(Text(), "/1etc/2x");
 }
 
 // ---- editing

@@ -359,11 +359,16 @@ std::string Desktop::Clipboard() const {
   return RunCommand("DISPLAY=" + server.Name() + " timeout 10 xclip -selection clipboard -o");
 }
 
+// xclip ends before its request to own the clipboard need have reached the server.
 void Desktop::SetClipboard(const std::string& text) {
   FILE* pipe = popen(("DISPLAY=" + server.Name() + " xclip -selection clipboard -i >/dev/null 2>&1").c_str(), "w");
-  if (!pipe) return;
+  if (!pipe) {
+    ADD_FAILURE() << "xclip does not start";
+    return;
+  }
   fwrite(text.data(), 1, text.size(), pipe);
   pclose(pipe);
+  if (!Eventually([&] { return Clipboard() == text; })) ADD_FAILURE() << "The clipboard does not hold " << text;
 }
 
 int Desktop::ExitCode() {

@@ -63,7 +63,7 @@ class Desktop {
   bool EventuallyShows(const std::string& text) const;  // in some row
 
   std::string Clipboard() const;
-  void SetClipboard(const std::string& text);
+  void SetClipboard(const std::string& text);  // as another program; returns when the text is there
 
   // Waits for the end of the program; -1 if it does not end.
   int ExitCode();

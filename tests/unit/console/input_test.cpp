@@ -103,6 +103,42 @@ TEST_F(Input, TheMiddleButtonAndAFreeMotionMeanNothing) {
   EXPECT_EQ(Read(), 0u);
 }
 
+TEST_F(Input, TheRestOfADroppedClickMeansNothingUpToItsRelease) {
+  queue.DropRestOfClick();
+  for (const EventType type : {kEventMotion, kEventWheel, kEventMotion, kEventRelease, kEventRelease}) {
+    Put({type, 1, 0, 0, 0, 0});
+  }
+  Put({kEventKey, 1, 0, 0, 0, 0});
+  EXPECT_EQ(Read(), 0u);
+  EXPECT_EQ(Read(), kMouseKey);
+  EXPECT_EQ(mouse.kind, kMouseWheel);
+  EXPECT_EQ(Read(), 0u);
+  EXPECT_EQ(Read(), 0u);
+  EXPECT_EQ(Read(), kMouseKey);
+  EXPECT_EQ(mouse.kind, kMouseLeftRelease);
+  EXPECT_EQ(Read(), Key{1});
+}
+
+TEST_F(Input, ADroppedClickWhoseReleaseGotLostEndsWithTheNextPress) {
+  queue.DropRestOfClick();
+  for (const EventType type : {kEventPress, kEventMotion, kEventRelease}) {
+    Put({type, 1, 0, 0, 0, 0});
+    EXPECT_EQ(Read(), kMouseKey) << type;
+  }
+}
+
+TEST_F(Input, ADroppedClickLeavesTheOtherButtonAndAllKeys) {
+  queue.DropRestOfClick();
+  for (const EventType type : {kEventPress, kEventMotion, kEventRelease}) {
+    Put({type, 2, 0, 0, 0, 0});
+    EXPECT_EQ(Read(), kMouseKey) << type;
+  }
+  Put({kEventKey, 1, 0, 0, 0, 0});
+  EXPECT_EQ(Read(), Key{1});
+  Put({kEventRelease, 1, 0, 0, 0, 0});
+  EXPECT_EQ(Read(), 0u);
+}
+
 TEST_F(Input, TheWheelHasADelta) {
   Put({kEventWheel, -1, 0, 0, 2, 3});
   EXPECT_EQ(Read(), kMouseKey);

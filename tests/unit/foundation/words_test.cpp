@@ -57,3 +57,12 @@ TEST(WordEnd, EndsAtTheEndOfTheLine) {
     EXPECT_EQ(WordEnd(L"...", brief), 3);
   }
 }
+
+TEST(NextWord, GoesBehindTheNextWordOrToItsStart) {
+  EXPECT_EQ(NextWord(L" file x", true), 5);
+  EXPECT_EQ(NextWord(L"copy file", false), 5);
+  EXPECT_EQ(NextWord(L"/file", false), 1);
+  EXPECT_EQ(NextWord(L"//file", false), 2);
+  EXPECT_EQ(NextWord(L"file", false), 4);
+  EXPECT_EQ(NextWord(L"", false), 0);
+}

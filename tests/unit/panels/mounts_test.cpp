@@ -40,6 +40,13 @@ TEST_F(Mounts, ATableThatIsMissingIsToldWithTheReason) {
   EXPECT_EQ(list.Count(), 0);
 }
 
+TEST_F(Mounts, ATableThatOpensAndCannotBeReadIsToldAsWell) {
+  errno = 0;
+  EXPECT_FALSE(ReadMountTable(scratch.Path().c_str(), list, true));
+  EXPECT_EQ(errno, EISDIR);
+  EXPECT_EQ(list.Count(), 0);
+}
+
 TEST_F(Mounts, AnEmptyTableIsNoFailure) {
   EXPECT_TRUE(Read(""));
   EXPECT_EQ(list.Count(), 0);

@@ -233,6 +233,13 @@ TEST_F(ExecShellTest, SignalsHeldBackHereReachTheCommand) {
   EXPECT_EQ(mask, "SigBlk:\t0000000000000000\n");
 }
 
+// As after any start of the toolkit.
+TEST_F(ExecShellTest, ABrokenPipeEndsACommandAlsoWhereItIsIgnoredHere) {
+  const auto before = signal(SIGPIPE, SIG_IGN);
+  EXPECT_EQ(OutputOf("/bin/sh -c 'kill -s PIPE $$'; printf %s $?"), std::to_string(128 + SIGPIPE));
+  signal(SIGPIPE, before);
+}
+
 // ---- StartDetached -----------------------------------------------------------
 
 TEST_F(StartDetachedTest, TheCommandRunsByTheShell) {
