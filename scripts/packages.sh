@@ -2,7 +2,7 @@
 
 build_packages=(g++ cmake ninja-build pkg-config libgtkmm-2.4-dev fonts-dejavu-core python3-minimal)
 headless_packages=(xvfb)
-test_packages=(xvfb libgtest-dev libx11-dev libxtst-dev libxdamage-dev xclip)
+test_packages=(xvfb libgtest-dev libx11-dev libxtst-dev libxdamage-dev xclip less vim-tiny)
 bench_packages=(xvfb libx11-dev libxtst-dev libxdamage-dev xterm)
 
 # require PACKAGE...: installs those that are missing. Where that cannot be done
