@@ -40,6 +40,22 @@ TEST(Execute, ATemplatesMacrosStandForTheFile) {
   EXPECT_EQ(s.Content("right/a-a"), "text");
 }
 
+TEST(Execute, AFileOfAnyNameIsTheArgument) {
+  for (const std::string name : {"a&", "b ", "c\\", "#d", "-e", "f\n", "g;", "h!", "i$HOME", "j\\&"}) {
+    Session s({{"left/" + name, ""}}, Settings("[Associations]\n*: printf %s > ../out\n"));
+    s.Keys("Down Enter");
+    EXPECT_EQ(s.Content("out"), name);
+  }
+}
+
+TEST(Execute, AProgramOfAnyNameRuns) {
+  for (const std::string name : {"a&", "b ", "c\\", "#d", "-e", "f\n", "g;", "h!", "i$HOME", "j\\&"}) {
+    Session s({{"left/" + name, "#!/bin/sh\ntouch ../ran\n"}}, Programs({name}));
+    s.Keys("Down Enter");
+    EXPECT_TRUE(s.Exists("ran")) << name;
+  }
+}
+
 TEST(Execute, TheFirstRuleThatFitsWins) {
   Session s({{"left/a.txt", "text"}},
             Settings("[Associations]\n*.c: touch ../c\na*: touch ../first\n*.txt: touch ../second\n"));

@@ -86,6 +86,15 @@ TEST_F(GuiWindow, AnyNameOfADirectoryArrivesAsOneArgument) {
   EXPECT_EQ(Told(), "<nautilus><--browser><" + s.Path("left/" + name) + ">@" + s.Path("left/" + name));
 }
 
+TEST_F(GuiWindow, ANameMayEndInWhatACommandEndsIn) {
+  for (const std::string name : {"blank ", "both &", "slash\\", "slash\\ "}) {
+    Session& s = Start({"dolphin"}, {{"left/" + name + "/", ""}});
+    s.Keys("Down Enter Ctrl-W");
+    EXPECT_EQ(Told(), "<dolphin><" + s.Path("left/" + name) + ">@" + s.Path("left/" + name));
+    session.reset();
+  }
+}
+
 TEST_F(GuiWindow, WithoutABrowserNothingHappens) {
   Session& s = Start({});
   s.Write("left/new", "");

@@ -52,6 +52,18 @@ TEST(CommandWords, AHashForcesTheTerminalAndAnAmpersandSendsAway) {
   EXPECT_STREQ(sent.program.Text(), L"xterm");
 }
 
+TEST(CommandWords, AnEscapedAmpersandOrBlankAtTheEndBelongsToAName) {
+  EXPECT_FALSE(SplitCommand(L"cp a\\&").background);
+  EXPECT_STREQ(SplitCommand(L"cp a\\&").command.Text(), L"cp a\\&");
+  EXPECT_STREQ(SplitCommand(L"cp a\\\\&").command.Text(), L"cp a\\\\");
+  EXPECT_STREQ(SplitCommand(L"cp a\\  &").command.Text(), L"cp a\\ ");
+  EXPECT_STREQ(SplitCommand(L"cp a\\ &").command.Text(), L"cp a\\ ");
+  EXPECT_STREQ(SplitCommand(L"cp a\\\\ &").command.Text(), L"cp a\\\\");
+  EXPECT_STREQ(SplitCommand(L"cp a\\&&").command.Text(), L"cp a\\&");
+  EXPECT_STREQ(SplitCommand(L"&").command.Text(), L"");
+  EXPECT_STREQ(SplitCommand(L"\\").command.Text(), L"\\");
+}
+
 TEST(CommandWords, ALineThatBeginsWithABlankIsOneProgram) {
   EXPECT_STREQ(SplitCommand(L" ls").program.Text(), L" ls");
   EXPECT_STREQ(SplitCommand(L" ls").arguments.Text(), L"");
