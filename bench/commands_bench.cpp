@@ -21,7 +21,7 @@
 namespace {
 
 constexpr double kFloodLimit = 1, kEchoLimit = 1.5, kMemoryLimit = 1.3;
-constexpr int kRounds = 7;
+constexpr int kRounds = 5;
 constexpr int kEchoes = 60;  // of a round; they stay within one row
 constexpr int kEchoPauseMs = 33;
 constexpr unsigned long kMark = 0x7F007F;  // no stream has this ground
@@ -105,10 +105,10 @@ class Running {
 
   // Seconds from Enter until a row of marks stands at the bottom.
   double RunTime() {
-    const int bottom = window.y + window.height - CellHeight() / 2;
+    const int x = window.x + window.width / 2, bottom = window.y + window.height - CellHeight() / 2;
     return Seconds([&] {
       screen.Press(XK_Return);
-      AwaitMark(window.x + window.width / 2, bottom);
+      screen.AwaitInFlood("the last line", [&] { return screen.Pixel(x, bottom) == kMark; });
     });
   }
 
@@ -119,9 +119,10 @@ class Running {
 
   // Seconds from a blank until its mark stands in that column of the first row.
   double EchoTime(int column) {
+    const int x = window.x + column * CellWidth() + CellWidth() / 2, y = window.y + CellHeight() / 2;
     return Seconds([&] {
       screen.Press(XK_space);
-      AwaitMark(window.x + column * CellWidth() + CellWidth() / 2, window.y + CellHeight() / 2);
+      screen.Await("an echo", {x, y, 1, 1}, [&] { return screen.Pixel(x, y) == kMark; });
     });
   }
 
@@ -136,10 +137,6 @@ class Running {
     screen.AwaitRest(screen.Whole(), 100);
     return true;
   }
-  void AwaitMark(int x, int y) {
-    screen.Await("the last line", {x, y, 1, 1}, [&] { return screen.Pixel(x, y) == kMark; });
-  }
-
   Watcher& screen;
   bool emptied;
   Process process;

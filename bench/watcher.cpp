@@ -9,10 +9,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <thread>
 
 namespace {
 
 constexpr int kPatienceMs = 20'000;
+constexpr int kFloodPauseMs = 2;
 constexpr int kLeastWidth = 200;  // of a window that counts
 
 using Clock = std::chrono::steady_clock;
@@ -45,7 +47,7 @@ Watcher::Watcher() : display(XOpenDisplay(nullptr)) {
   }
   // A window may go while it is asked about.
   XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
-  XDamageCreate(display.get(), DefaultRootWindow(display.get()), XDamageReportRawRectangles);
+  Report(XDamageReportRawRectangles);
 }
 
 Watcher::~Watcher() = default;
@@ -93,6 +95,23 @@ void Watcher::Await(const char* what, const Area& area, const std::function<bool
   while (!condition()) {
     if (!AwaitDrawing(area, kPatienceMs)) GiveUp(what);
   }
+}
+
+void Watcher::Report(int level) {
+  if (damage != 0) XDamageDestroy(display.get(), damage);
+  damage = XDamageCreate(display.get(), DefaultRootWindow(display.get()), level);
+}
+
+void Watcher::AwaitInFlood(const char* what, const std::function<bool()>& condition) {
+  Report(XDamageReportNonEmpty);
+  XDamageSubtract(display.get(), damage, None, None);
+  while (!condition()) {
+    if (!AwaitDrawing(Whole(), kPatienceMs)) GiveUp(what);
+    std::this_thread::sleep_for(std::chrono::milliseconds(kFloodPauseMs));
+    // What is drawn from here on is told of, and what was before is looked at.
+    XDamageSubtract(display.get(), damage, None, None);
+  }
+  Report(XDamageReportRawRectangles);
 }
 
 void Watcher::AwaitRest(const Area& area, int milliseconds) {

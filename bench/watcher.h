@@ -56,13 +56,18 @@ class Watcher {
   // Looks once, and again after each drawing that touches the area, until the
   // condition holds. Ends the process with a message if it never does.
   void Await(const char* what, const Area& area, const std::function<bool()>& condition);
+  // The same for a flood of drawings, whose reports alone would slow down whoever
+  // draws: the server tells of one, and of the next one only milliseconds later.
+  void AwaitInFlood(const char* what, const std::function<bool()>& condition);
   // Returns when nothing has been drawn there for that long.
   void AwaitRest(const Area& area, int milliseconds);
 
  private:
   // False if nothing was drawn there within that time.
   bool AwaitDrawing(const Area& area, int milliseconds);
+  void Report(int level);  // drawings, from here on
 
   std::unique_ptr<Display, DisplayClose> display;
   int firstDamageEvent = 0;
+  XID damage = 0;
 };

@@ -7,8 +7,15 @@
 AttachedTerminal::AttachedTerminal(CConsoleWindow& window, int masterFd)
     : window(window), damage(window.grid.Columns(), window.grid.Rows()), terminal(*this, masterFd) {}
 
+// Noted first: the echo may be there before write returns.
+void AttachedTerminal::SendKey(Key code) {
+  owesEcho = true;
+  terminal.SendKey(code);
+}
+
 void AttachedTerminal::Paint() {
   if (damage.IsEmpty()) return;
+  owesEcho = false;
   window.Paint(damage);
   damage.Clear();
 }

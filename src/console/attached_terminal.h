@@ -2,6 +2,8 @@
 // paints when told to.
 #pragma once
 
+#include <atomic>
+
 #include "console/terminal.h"
 #include "console/terminal_damage.h"
 
@@ -13,8 +15,10 @@ class AttachedTerminal : public TerminalScreen {
 
   void Write(const char* bytes, int n) { terminal.Write(bytes, n); }
   // From the GUI thread.
-  void SendKey(Key code) { terminal.SendKey(code); }
+  void SendKey(Key code);
   void Paint();
+  // True from a key to the next paint of anything.
+  bool OwesEcho() const { return owesEcho; }
 
   CellGrid& Grid() override;
   void GetCursor(int& x, int& y) const override;
@@ -29,4 +33,5 @@ class AttachedTerminal : public TerminalScreen {
   CConsoleWindow& window;
   TerminalDamage damage;
   CTerminal terminal;
+  std::atomic<bool> owesEcho{false};
 };

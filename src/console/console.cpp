@@ -144,6 +144,7 @@ void CConsole::WriteText(const char* bytes) {
 
 void CConsole::WriteTerminal(const char* bytes, int n) { window->Terminal()->Write(bytes, n); }
 void CConsole::PaintTerminal() { window->Terminal()->Paint(); }
+bool CConsole::TerminalOwesEcho() const { return window->Terminal()->OwesEcho(); }
 void CConsole::AttachTerminal(int masterFd) { window->AttachTerminal(masterFd); }
 void CConsole::DetachTerminal() { window->DetachTerminal(); }
 

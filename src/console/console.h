@@ -61,6 +61,8 @@ class CConsole {
   // pixels follow with PaintTerminal, so that a flood is not painted line by line.
   void WriteTerminal(const char* bytes, int n);
   void PaintTerminal();
+  // True from a key that went to the child to the next paint of its output.
+  bool TerminalOwesEcho() const;
 
   // From here on keys and text go to the master side of a pseudo-terminal, and
   // what its child writes is to be handed to WriteTerminal. The descriptor stays

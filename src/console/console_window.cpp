@@ -122,9 +122,9 @@ void CConsoleWindow::DrawCells(const CellRect& block) {
     painter.DrawCursor(cairo, cursorX * painter.CellWidth(), cursorY * painter.CellHeight(), cursorSize,
                        grid.At(cursorX, cursorY).attribute);
   }
-  area.queue_draw_area(block.left * painter.CellWidth(), block.top * painter.CellHeight(),
-                       (block.right - block.left + 1) * painter.CellWidth(),
-                       (block.bottom - block.top + 1) * painter.CellHeight());
+  area.Show(block.left * painter.CellWidth(), block.top * painter.CellHeight(),
+            (block.right - block.left + 1) * painter.CellWidth(),
+            (block.bottom - block.top + 1) * painter.CellHeight());
 }
 
 void CConsoleWindow::DrawCellRow(cairo_t* cairo, const CellRect& block, int y) {
@@ -211,8 +211,8 @@ void CConsoleWindow::MovePicture(const CellRect& block, int lines) {
   const int width = painter.CellWidth(), height = painter.CellHeight();
   area.CopyPicture(source.left * width, source.top * height, target.left * width, target.top * height,
                    (source.right - source.left + 1) * width, (source.bottom - source.top + 1) * height);
-  area.queue_draw_area(target.left * width, target.top * height, (target.right - target.left + 1) * width,
-                       (target.bottom - target.top + 1) * height);
+  area.Show(target.left * width, target.top * height, (target.right - target.left + 1) * width,
+            (target.bottom - target.top + 1) * height);
 }
 
 // The selection stays where it is on the screen, but its picture went along.
@@ -261,12 +261,14 @@ void CConsoleWindow::PlaceCursor(int x, int y) {
 
 void CConsoleWindow::Paint(const TerminalDamage& damage) {
   ToolkitLock lock;
+  area.BeginHurry();
   const TerminalDamage::Move& move = damage.OwedMove();
   if (move.lines != 0) MovePicture(move.block, move.lines);
   for (const CellRect& block : damage.Blocks()) Repaint(block);
   if (move.lines != 0) RepaintMovedSelection(move.block, move.lines);
   DrawCursorCell();
   ++drawCount;
+  area.EndHurry();
 }
 
 void CConsoleWindow::Ring() {

@@ -34,10 +34,17 @@ class CConsoleDrawingArea : public Gtk::DrawingArea {
   // The picture to draw on; made black at its first use.
   cairo_t* Picture();
   void CopyPicture(int fromX, int fromY, int toX, int toY, int width, int height);
+  // Brings a part of the picture to the window: when the GUI thread comes to it,
+  // or in a hurry at once, with all that was drawn on its way at the end.
+  void Show(int x, int y, int width, int height);
+  void BeginHurry();
+  void EndHurry();
 
  private:
+  void CopyToWindow(int x, int y, int width, int height);
   bool on_expose_event(GdkEventExpose* event) override;
 
+  bool isHurried = false;
   int pictureWidth = 0, pictureHeight = 0;
   std::unique_ptr<GdkPixmap, ObjectRelease> picture;
   std::unique_ptr<GdkGC, ObjectRelease> copier;

@@ -44,16 +44,36 @@ void CConsoleDrawingArea::CopyPicture(int fromX, int fromY, int toX, int toY, in
   cairo_surface_mark_dirty(surface);
 }
 
+void CConsoleDrawingArea::Show(int x, int y, int width, int height) {
+  if (isHurried)
+    CopyToWindow(x, y, width, height);
+  else
+    queue_draw_area(x, y, width, height);
+}
+
+void CConsoleDrawingArea::BeginHurry() { isHurried = true; }
+
+// A look for events sends what was drawn. It also reads keys and clicks off the
+// connection, on which the GUI thread sleeps.
+void CConsoleDrawingArea::EndHurry() {
+  isHurried = false;
+  if (gdk_events_pending()) g_main_context_wakeup(nullptr);
+}
+
+void CConsoleDrawingArea::CopyToWindow(int x, int y, int width, int height) {
+  cairo_surface_flush(cairo_get_target(Picture()));
+  gdk_draw_drawable(gtk_widget_get_window(GTK_WIDGET(gobj())), copier.get(), GDK_DRAWABLE(picture.get()), x,
+                    y, x, y, width, height);
+}
+
 // Rectangle by rectangle: a step of the cursor changes a few rows far apart,
 // and what lies between them is most of the window.
 bool CConsoleDrawingArea::on_expose_event(GdkEventExpose* event) {
-  cairo_surface_flush(cairo_get_target(Picture()));
   GdkRectangle* places = nullptr;
   gint count = 0;
   gdk_region_get_rectangles(event->region, &places, &count);
   for (const GdkRectangle* place = places; place < places + count; ++place) {
-    gdk_draw_drawable(event->window, copier.get(), GDK_DRAWABLE(picture.get()), place->x, place->y, place->x,
-                      place->y, place->width, place->height);
+    CopyToWindow(place->x, place->y, place->width, place->height);
   }
   g_free(places);
   return true;

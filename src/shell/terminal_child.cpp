@@ -133,11 +133,19 @@ class Pump {
     if (ended > 0 && WIFEXITED(status)) exitCode = WEXITSTATUS(status);
   }
 
+  // Paints where nothing more comes at once. A flood pauses after each piece, so
+  // only the answer to a key is painted without a look at the time.
   bool Await(int timeoutMs) {
+    if (IsReady(0)) return true;
+    const int early = static_cast<int>(paintedAt + kPaintIntervalMs - NowMs());
+    if (early > 0 && !Console->TerminalOwesEcho() && IsReady(std::min(early, timeoutMs))) return true;
+    Paint();
+    return timeoutMs > 0 && IsReady(timeoutMs);
+  }
+
+  bool IsReady(int timeoutMs) const {
     pollfd state{master, POLLIN, 0};
-    if (poll(&state, 1, 0) > 0) return true;
-    Paint();  // nothing more comes at once
-    return timeoutMs > 0 && poll(&state, 1, timeoutMs) > 0;
+    return poll(&state, 1, timeoutMs) > 0;
   }
 
   int Take() {
