@@ -31,9 +31,9 @@ void AttachedTerminal::GetCursor(int& x, int& y) const {
 // wherever the cursor has been: the blinking may have drawn it there.
 void AttachedTerminal::SetCursor(int x, int y) {
   if (x == window.cursorX && y == window.cursorY) return;
-  damage.Changed({window.cursorX, window.cursorY, window.cursorX, window.cursorY});
+  NoteCursorCell();
   window.PlaceCursor(x, y);
-  damage.Changed({x, y, x, y});
+  NoteCursorCell();
 }
 
 int AttachedTerminal::CursorSize() const { return window.cursorSize; }
@@ -41,6 +41,17 @@ int AttachedTerminal::CursorSize() const { return window.cursorSize; }
 void AttachedTerminal::SetCursorSize(int percent) {
   if (percent == window.cursorSize) return;
   window.cursorSize = percent;
+  NoteCursorCell();
+}
+
+// Before the move, so that the note of the cell moves along with what was drawn
+// there: during a write the cursor is still where the last one has left it.
+void AttachedTerminal::Scrolled(const CellRect& block, int lines) {
+  NoteCursorCell();
+  damage.Scrolled(block, lines);
+}
+
+void AttachedTerminal::NoteCursorCell() {
   damage.Changed({window.cursorX, window.cursorY, window.cursorX, window.cursorY});
 }
 

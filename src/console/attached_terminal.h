@@ -27,9 +27,11 @@ class AttachedTerminal : public TerminalScreen {
   void SetCursorSize(int percent) override;
   void Beep() override;
   void Changed(const CellRect& block) override { damage.Changed(block); }
-  void Scrolled(const CellRect& block, int lines) override { damage.Scrolled(block, lines); }
+  void Scrolled(const CellRect& block, int lines) override;
 
  private:
+  void NoteCursorCell();
+
   CConsoleWindow& window;
   TerminalDamage damage;
   CTerminal terminal;

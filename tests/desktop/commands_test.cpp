@@ -90,6 +90,18 @@ TEST_F(Commands, KeysReachTheChildThroughTheLineEditingOfItsTerminal) {
   EXPECT_TRUE(PanelsAreBackIntact());
 }
 
+TEST_F(Commands, TheCursorLeavesNothingOnARowThatScrolls) {
+  Run("cat");
+  ASSERT_TRUE(Runs("cat"));
+  d.Keys("'text'");
+  ASSERT_TRUE(d.Eventually([&] { return d.Row(24).starts_with("text") && d.Row(24)[4] != ' '; }));
+  d.Keys("Enter");
+  const std::string row = "text" + std::string(76, ' ');
+  EXPECT_TRUE(d.Eventually([&] { return d.Row(22) == row && d.Row(23) == row; }));
+  d.Keys("Ctrl-d");
+  EXPECT_TRUE(PanelsAreBackIntact());
+}
+
 TEST_F(Commands, ControlZStopsAJobOfAShellAndControlDLeavesIt) {
   NEEDS("bash");
   Run("PS1='ready: ' bash --norc --noprofile");
