@@ -142,7 +142,9 @@ bool CConsoleWindow::IsCursorIn(const CellRect& block) const { return block.Cont
 
 void CConsoleWindow::Repaint(const CellRect& block) {
   const CellRect visible = Intersection(block, grid.Bounds());
-  if (!visible.IsEmpty()) DrawCells(visible);
+  if (visible.IsEmpty()) return;
+  DrawCells(visible);
+  drawnAhead = Union(drawnAhead, visible);
 }
 
 void CConsoleWindow::Invalidate(const CellRect& changed) {
@@ -200,7 +202,7 @@ void CConsoleWindow::Scroll(const CellRect& block, int lines, uint8_t attribute)
   MovePicture(block, lines);
   Repaint(ScrollVacated(block, lines));
   ++drawCount;
-  RepaintMovedSelection(block, lines);
+  RepaintMoved(selection.Selected(), block, lines);
   if (IsCursorIn(block) && size > 0) DrawCursorCell();
 }
 
@@ -215,14 +217,14 @@ void CConsoleWindow::MovePicture(const CellRect& block, int lines) {
             (target.bottom - target.top + 1) * height);
 }
 
-// The selection stays where it is on the screen, but its picture went along.
-void CConsoleWindow::RepaintMovedSelection(const CellRect& block, int lines) {
-  CellRect selected = Intersection(selection.Selected(), block);
-  if (selected.IsEmpty()) return;
-  Repaint(selected);
-  selected.top -= lines;
-  selected.bottom -= lines;
-  Repaint(Intersection(selected, block));
+// What stays where it is on the screen, though its picture went along.
+void CConsoleWindow::RepaintMoved(const CellRect& drawn, const CellRect& block, int lines) {
+  CellRect moved = Intersection(drawn, block);
+  if (moved.IsEmpty()) return;
+  Repaint(moved);
+  moved.top -= lines;
+  moved.bottom -= lines;
+  Repaint(Intersection(moved, block));
 }
 
 void CConsoleWindow::SetSelectableRegion(const CellRect& region) {
@@ -263,9 +265,13 @@ void CConsoleWindow::Paint(const TerminalDamage& damage) {
   ToolkitLock lock;
   area.BeginHurry();
   const TerminalDamage::Move& move = damage.OwedMove();
-  if (move.lines != 0) MovePicture(move.block, move.lines);
+  if (move.lines != 0) {
+    MovePicture(move.block, move.lines);
+    RepaintMoved(drawnAhead, move.block, move.lines);
+    RepaintMoved(selection.Selected(), move.block, move.lines);
+  }
   for (const CellRect& block : damage.Blocks()) Repaint(block);
-  if (move.lines != 0) RepaintMovedSelection(move.block, move.lines);
+  drawnAhead = {};
   DrawCursorCell();
   ++drawCount;
   area.EndHurry();

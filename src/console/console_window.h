@@ -105,7 +105,7 @@ class CConsoleWindow : public Gtk::Window {
   void DrawCellRow(cairo_t* cairo, const CellRect& block, int y);
   void Repaint(const CellRect& block);
   void MovePicture(const CellRect& block, int lines);
-  void RepaintMovedSelection(const CellRect& block, int lines);
+  void RepaintMoved(const CellRect& drawn, const CellRect& block, int lines);
   void DrawCursorCell() { Repaint({cursorX, cursorY, cursorX, cursorY}); }
   bool IsCursorIn(const CellRect& block) const;
   // Cells of the window's pixels, cut towards zero.
@@ -136,4 +136,7 @@ class CConsoleWindow : public Gtk::Window {
   BlinkThread blink;
   std::thread gui;
   std::vector<Cell> rowInWork;
+  // Around all that was drawn since the terminal's last paint, by the blinking
+  // for example. It is as the cells are now, but moves with what is owed.
+  CellRect drawnAhead;
 };

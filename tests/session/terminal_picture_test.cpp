@@ -1,0 +1,187 @@
+// What a child's output leaves on the window: after any paints on the way the
+// pixels are those of a screen that is painted anew.
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+
+#include <chrono>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "support/console_fixture.h"
+
+namespace {
+
+constexpr unsigned long kMagenta = 0x7F007F, kGreen = 0x007F00, kWhite = 0xFFFFFF;
+constexpr auto kPatience = std::chrono::seconds(10);
+
+struct DisplayClose {
+  void operator()(Display* display) const { XCloseDisplay(display); }
+};
+struct ImageRelease {
+  void operator()(XImage* image) const { XDestroyImage(image); }
+};
+using Image = std::unique_ptr<XImage, ImageRelease>;
+using Connection = std::unique_ptr<Display, DisplayClose>;
+
+class TerminalPicture : public ConsoleFixture {
+ protected:
+  TerminalPicture() : display(XOpenDisplay(nullptr)) {
+    FindWindow();
+    Console->AttachTerminal(-1);
+  }
+
+  void Write(const std::string& bytes) {
+    Console->WriteTerminal(bytes.data(), static_cast<int>(bytes.size()));
+  }
+  void WriteAndPaint(const std::string& bytes) {
+    Write(bytes);
+    Console->PaintTerminal();
+  }
+
+  // Waits until the blinking has drawn the cursor in a cell of a dark ground.
+  void AwaitCursor(int column, int row) {
+    const int x = column * CellWidth() + CellWidth() / 2, y = (row + 1) * CellHeight() - 1;
+    EXPECT_TRUE(PictureWith(kWhite, x, y) != nullptr) << "no cursor";
+  }
+
+  // Detaches the terminal, which paints the screen anew. The last cell tells
+  // when either picture is there.
+  void ExpectTruePicture() {
+    WriteAndPaint("\033[?25l\033[25;80H\033[45m \033[0m");
+    const Image shown = PictureWith(kMagenta);
+    Console->BeginUpdate();
+    Console->DetachTerminal();
+    Console->PutString(kColumns - 1, kRows - 1, L" ", 0x27);
+    Console->EndUpdate();
+    const Image anew = PictureWith(kGreen);
+    ASSERT_TRUE(shown && anew);
+    EXPECT_EQ(Differences(*shown, *anew), "");
+  }
+
+ private:
+  void FindWindow() {
+    Window root, parent, *children = nullptr;
+    unsigned count = 0;
+    auto* const x = display.get();
+    const auto deadline = std::chrono::steady_clock::now() + kPatience;
+    while (window == 0 && std::chrono::steady_clock::now() < deadline) {
+      XQueryTree(x, DefaultRootWindow(x), &root, &parent, &children, &count);
+      for (unsigned i = 0; i < count; ++i) {
+        XWindowAttributes is;
+        if (XGetWindowAttributes(x, children[i], &is) && is.map_state == IsViewable && is.width > kColumns)
+          window = children[i], width = is.width, height = is.height;
+      }
+      if (children) XFree(children);
+    }
+  }
+
+  // Of the last cell's middle.
+  Image PictureWith(unsigned long colour) {
+    return PictureWith(colour, width - CellWidth() / 2, height - CellHeight() / 2);
+  }
+
+  // Null if the pixel does not get that colour.
+  Image PictureWith(unsigned long colour, int x, int y) {
+    const auto deadline = std::chrono::steady_clock::now() + kPatience;
+    while (std::chrono::steady_clock::now() < deadline) {
+      Image image(XGetImage(display.get(), window, 0, 0, static_cast<unsigned>(width),
+                            static_cast<unsigned>(height), AllPlanes, ZPixmap));
+      if (image && (XGetPixel(image.get(), x, y) & 0xFFFFFF) == colour) return image;
+    }
+    return nullptr;
+  }
+
+  // The cells that are not alike, "x,y" each, but for the last one.
+  std::string Differences(XImage& a, XImage& b) const {
+    std::string cells;
+    for (int i = 0; i < kColumns * kRows - 1; ++i) {
+      if (!IsCellAlike(a, b, i % kColumns, i / kColumns))
+        cells += std::to_string(i % kColumns) + "," + std::to_string(i / kColumns) + " ";
+    }
+    return cells;
+  }
+
+  bool IsCellAlike(XImage& a, XImage& b, int column, int row) const {
+    for (int y = row * CellHeight(); y < (row + 1) * CellHeight(); ++y) {
+      for (int x = column * CellWidth(); x < (column + 1) * CellWidth(); ++x)
+        if (XGetPixel(&a, x, y) != XGetPixel(&b, x, y)) return false;
+    }
+    return true;
+  }
+
+  int CellWidth() const { return width / kColumns; }
+  int CellHeight() const { return height / kRows; }
+
+  Connection display;
+  Window window = 0;
+  int width = 0, height = 0;
+};
+
+}  // namespace
+
+TEST_F(TerminalPicture, TheCursorDoesNotScrollAlong) {
+  WriteAndPaint("\033[25;1Habc");
+  for (int i = 0; i < 3; ++i) WriteAndPaint("\n");
+  ExpectTruePicture();
+}
+
+TEST_F(TerminalPicture, ACursorThatWentOnLeavesNothingWhereItScrolledTo) {
+  WriteAndPaint("\033[25;1Habc");
+  for (int i = 0; i < 3; ++i) WriteAndPaint("\r\n$ ");
+  ExpectTruePicture();
+}
+
+TEST_F(TerminalPicture, ACursorDrawnBeforeThePaintDoesNotScrollAlong) {
+  WriteAndPaint("\033[25;1Habc");
+  Write("\n\033[25;11H");
+  AwaitCursor(10, 24);
+  Console->PaintTerminal();
+  ExpectTruePicture();
+}
+
+TEST_F(TerminalPicture, AFloodEndsWithTheRightPixels) {
+  for (int i = 0; i < 20000; ++i) {
+    Write("line \033[3" + std::to_string(i % 8) + "m" + std::to_string(i) + "\033[0m\r\n");
+    if (i % 97 == 0) Console->PaintTerminal();
+  }
+  ExpectTruePicture();
+}
+
+TEST_F(TerminalPicture, IsTrueAfterAnyOutputAndPaints) {
+  const std::vector<std::string> kOutput = {
+      "text",
+      "\r\n",
+      "\n",
+      "\033[5;5H",
+      "\033[25;40H",
+      "\033[3;9r\033[9;1H",
+      "\033[1;25r\033[25;1H",
+      "\033[41m",
+      "\033[0m",
+      "\033[L",
+      "\033[2M",
+      "\033[K",
+      "\033[J",
+      "\033M",
+      "\b",
+      "\t",
+      "\033[3S",
+      "\033[2T",
+      "\033[?25l",
+      "\033[?25h",
+      "a longer line of text\n",
+      "\033[4P",
+      "\033[3@",
+      "\033[A",
+      "\033[9C",
+  };
+  std::mt19937 random(11);
+  for (int step = 0; step < 4000; ++step) {
+    Write(kOutput[random() % kOutput.size()]);
+    if (random() % 3 == 0) Console->PaintTerminal();
+  }
+  Write("\033[1;25r");
+  ExpectTruePicture();
+}
