@@ -23,14 +23,16 @@ void AttachedTerminal::Paint() {
 CellGrid& AttachedTerminal::Grid() { return window.grid; }
 
 void AttachedTerminal::GetCursor(int& x, int& y) const {
-  x = window.cursorX;
-  y = window.cursorY;
+  const CConsoleWindow::Place at = window.cursor;
+  x = at.x;
+  y = at.y;
 }
 
 // The cursor's picture moves with the rows it stands on, so its cell is noted
 // wherever the cursor has been: the blinking may have drawn it there.
 void AttachedTerminal::SetCursor(int x, int y) {
-  if (x == window.cursorX && y == window.cursorY) return;
+  const CConsoleWindow::Place at = window.cursor;
+  if (x == at.x && y == at.y) return;
   NoteCursorCell();
   window.PlaceCursor(x, y);
   NoteCursorCell();
@@ -51,8 +53,6 @@ void AttachedTerminal::Scrolled(const CellRect& block, int lines) {
   damage.Scrolled(block, lines);
 }
 
-void AttachedTerminal::NoteCursorCell() {
-  damage.Changed({window.cursorX, window.cursorY, window.cursorX, window.cursorY});
-}
+void AttachedTerminal::NoteCursorCell() { damage.Changed(window.cursor.load().Cell()); }
 
 void AttachedTerminal::Beep() { window.Ring(); }

@@ -43,8 +43,9 @@ const Estring& CConsole::FontFamily() const { return window->fontFamily; }
 // ---- cursor ------------------------------------------------------------------
 
 void CConsole::GetCursor(int& x, int& y) const {
-  x = window->cursorX;
-  y = window->cursorY;
+  const CConsoleWindow::Place at = window->cursor;
+  x = at.x;
+  y = at.y;
 }
 
 void CConsole::SetCursor(int x, int y) { window->SetCursor(x, y); }

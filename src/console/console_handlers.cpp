@@ -71,9 +71,10 @@ void CConsoleWindow::MakeInputMethod() {
 }
 
 void CConsoleWindow::OfferToInputMethod(GdkEventKey* event) {
-  GdkRectangle cursor{cursorX * painter.CellWidth(), cursorY * painter.CellHeight(), painter.CellWidth(),
-                      painter.CellHeight()};
-  gtk_im_context_set_cursor_location(inputMethod.get(), &cursor);
+  const Place at = cursor;
+  GdkRectangle cell{at.x * painter.CellWidth(), at.y * painter.CellHeight(), painter.CellWidth(),
+                    painter.CellHeight()};
+  gtk_im_context_set_cursor_location(inputMethod.get(), &cell);
   gtk_im_context_filter_keypress(inputMethod.get(), event);
 }
 

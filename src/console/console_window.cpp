@@ -118,9 +118,10 @@ void CConsoleWindow::Layout(int columns, int rows, int points) {
 void CConsoleWindow::DrawCells(const CellRect& block) {
   cairo_t* cairo = area.Picture();
   for (int y = block.top; y <= block.bottom; ++y) DrawCellRow(cairo, block, y);
-  if (IsCursorIn(block) && cursorSize > 0 && blink.IsCursorPhase()) {
-    painter.DrawCursor(cairo, cursorX * painter.CellWidth(), cursorY * painter.CellHeight(), cursorSize,
-                       grid.At(cursorX, cursorY).attribute);
+  const Place at = cursor;
+  if (block.Contains(at.x, at.y) && cursorSize > 0 && blink.IsCursorPhase()) {
+    painter.DrawCursor(cairo, at.x * painter.CellWidth(), at.y * painter.CellHeight(), cursorSize,
+                       grid.At(at.x, at.y).attribute);
   }
   area.Show(block.left * painter.CellWidth(), block.top * painter.CellHeight(),
             (block.right - block.left + 1) * painter.CellWidth(),
@@ -138,7 +139,10 @@ void CConsoleWindow::DrawCellRow(cairo_t* cairo, const CellRect& block, int y) {
                   block.left * painter.CellWidth(), y * painter.CellHeight());
 }
 
-bool CConsoleWindow::IsCursorIn(const CellRect& block) const { return block.Contains(cursorX, cursorY); }
+bool CConsoleWindow::IsCursorIn(const CellRect& block) const {
+  const Place at = cursor;
+  return block.Contains(at.x, at.y);
+}
 
 void CConsoleWindow::Repaint(const CellRect& block) {
   const CellRect visible = Intersection(block, grid.Bounds());
@@ -165,15 +169,11 @@ void CConsoleWindow::EndUpdate() {
 
 void CConsoleWindow::SetCursor(int x, int y) {
   blink.Restart();
-  if (x == cursorX && y == cursorY) return;
-  const CellRect old{cursorX, cursorY, cursorX, cursorY};
-  {
-    ToolkitLock lock;
-    cursorX = x;
-    cursorY = y;
-  }
+  const Place old = cursor;
+  if (x == old.x && y == old.y) return;
+  cursor = {x, y};
   if (cursorSize == 0) return;
-  Invalidate(old);
+  Invalidate(old.Cell());
   Invalidate({x, y, x, y});
 }
 
@@ -185,7 +185,7 @@ void CConsoleWindow::SetCursorSize(int percent) {
     ToolkitLock lock;
     cursorSize = percent;
   }
-  Invalidate({cursorX, cursorY, cursorX, cursorY});
+  Invalidate(cursor.load().Cell());
 }
 
 void CConsoleWindow::Scroll(const CellRect& block, int lines, uint8_t attribute) {
@@ -256,9 +256,7 @@ void CConsoleWindow::DetachTerminal() {
 
 void CConsoleWindow::PlaceCursor(int x, int y) {
   blink.Restart();
-  ToolkitLock lock;
-  cursorX = x;
-  cursorY = y;
+  cursor = {x, y};
 }
 
 void CConsoleWindow::Paint(const TerminalDamage& damage) {

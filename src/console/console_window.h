@@ -90,7 +90,12 @@ class CConsoleWindow : public Gtk::Window {
   Estring fontFamily;
   int fontSize;
   int codePage;
-  int cursorX = 0, cursorY = 0;
+  // In one, for a terminal moves it without the lock.
+  struct Place {
+    int x = 0, y = 0;
+    CellRect Cell() const { return {x, y, x, y}; }
+  };
+  std::atomic<Place> cursor{};
   int cursorSize = 0;
   uint8_t defaultAttribute;
   std::atomic<uint64_t> drawCount{0};
@@ -106,7 +111,7 @@ class CConsoleWindow : public Gtk::Window {
   void Repaint(const CellRect& block);
   void MovePicture(const CellRect& block, int lines);
   void RepaintMoved(const CellRect& drawn, const CellRect& block, int lines);
-  void DrawCursorCell() { Repaint({cursorX, cursorY, cursorX, cursorY}); }
+  void DrawCursorCell() { Repaint(cursor.load().Cell()); }
   bool IsCursorIn(const CellRect& block) const;
   // Cells of the window's pixels, cut towards zero.
   int CellX(double x) const { return static_cast<int>(x) / painter.CellWidth(); }
