@@ -24,6 +24,7 @@ constexpr double kFloodLimit = 1, kEchoLimit = 1.5, kMemoryLimit = 1.3;
 constexpr int kRounds = 5;
 constexpr int kEchoes = 60;  // of a round; they stay within one row
 constexpr int kEchoPauseMs = 33;
+constexpr int kAboveLetter = 3;            // pixels down the window, in its first row and in no letter x
 constexpr unsigned long kMark = 0x7F007F;  // no stream has this ground
 constexpr double kBytesInCell = 5;
 
@@ -73,7 +74,7 @@ class Place {
       Script(stream.script,
              stream.command + std::string("\nprintf '\\033[45m%79s\\033[0m' ''\nread answer\n"));
     }
-    // From here on each blank that cat takes and writes is a mark.
+    // From here on each letter that cat takes and writes has the mark as its ground.
     Script("echoes", "stty -icanon -echo\nprintf '\\033[2J\\033[H\\033[45m'\nexec cat\n");
   }
   std::string Home() const { return scratch.Path("home"); }
@@ -117,11 +118,11 @@ class Running {
     screen.AwaitRest(screen.Whole(), 300);
   }
 
-  // Seconds from a blank until its mark stands in that column of the first row.
+  // Seconds from a key until its letter stands in that column of the first row.
   double EchoTime(int column) {
-    const int x = window.x + column * CellWidth() + CellWidth() / 2, y = window.y + CellHeight() / 2;
+    const int x = window.x + column * CellWidth() + CellWidth() / 2, y = window.y + kAboveLetter;
     return Seconds([&] {
-      screen.Press(XK_space);
+      screen.Press(XK_x);
       screen.Await("an echo", {x, y, 1, 1}, [&] { return screen.Pixel(x, y) == kMark; });
     });
   }
