@@ -1,5 +1,6 @@
-// Rows are laid out whole: that is what makes drawing fast. Whatever would
-// leave its column in such a row is drawn by itself and fitted into its cell.
+// The glyphs of a row are put in their columns together: that is what makes
+// drawing fast. Whatever would leave its column is drawn by itself and fitted
+// into its cell.
 #include "console/cell_painter.h"
 
 #include <algorithm>
@@ -71,8 +72,8 @@ LayoutPtr MakeLayout(PangoContext* context) {
 // ---- the font ----------------------------------------------------------------
 
 void CellPainter::SetFont(Gtk::Widget& widget, const Estring& family, int points) {
-  fits.clear();
-  fits.resize(kPages);
+  shapes.clear();
+  shapes.resize(kPages);
   oddGlyphs.clear();
   context.reset(gtk_widget_create_pango_context(widget.gobj()));
   PangoFontDescription* font = pango_font_description_new();
@@ -84,6 +85,7 @@ void CellPainter::SetFont(Gtk::Widget& widget, const Estring& family, int points
   mainFont.reset(pango_context_load_font(context.get(), font));
   pango_font_description_free(font);
   layout = MakeLayout(context.get());
+  glyphs.reset(pango_glyph_string_new());
   MeasureCell();
   MeasureAdvance();
   MeasureLines();
@@ -106,7 +108,7 @@ void CellPainter::MeasureAdvance() {
   spacedShaping.reset(pango_attr_list_copy(plainShaping.get()));
   const int cell = cellWidth * PANGO_SCALE;
   advance = AdvanceOf('0');
-  if (PangoLayoutRun* run = Shape("0", 1, plainShaping.get())) {
+  if (PangoLayoutRun* run = LayOut("0", 1, plainShaping.get())) {
     mainFont.reset(PANGO_FONT(g_object_ref(run->item->analysis.font)));
   }
   const bool oneWidth = AdvanceOf('i') == advance && AdvanceOf('M') == advance && advance > 0;
@@ -119,7 +121,7 @@ void CellPainter::MeasureAdvance() {
 // Frames must join from row to row.
 void CellPainter::MeasureLines() {
   const std::string line = ToBytes(kVerticalLine);
-  Shape(line.data(), static_cast<int>(line.size()), plainShaping.get());
+  LayOut(line.data(), static_cast<int>(line.size()), plainShaping.get());
   PangoRectangle ink{};
   pango_layout_line_get_pixel_extents(pango_layout_get_line_readonly(layout.get(), 0), &ink, nullptr);
   lineTop = ink.y;
@@ -127,7 +129,7 @@ void CellPainter::MeasureLines() {
   stretchesLines = lineTop > -baseline || lineTop + lineHeight < cellHeight - baseline;
 }
 
-PangoLayoutRun* CellPainter::Shape(const char* utf8, int bytes, PangoAttrList* attributes) {
+PangoLayoutRun* CellPainter::LayOut(const char* utf8, int bytes, PangoAttrList* attributes) {
   pango_layout_set_attributes(layout.get(), attributes);
   pango_layout_set_text(layout.get(), utf8, bytes);
   PangoLayoutLine* line = pango_layout_get_line_readonly(layout.get(), 0);
@@ -136,26 +138,27 @@ PangoLayoutRun* CellPainter::Shape(const char* utf8, int bytes, PangoAttrList* a
 }
 
 int CellPainter::AdvanceOf(char character) {
-  PangoLayoutRun* run = Shape(&character, 1, plainShaping.get());
+  PangoLayoutRun* run = LayOut(&character, 1, plainShaping.get());
   return run != nullptr ? pango_glyph_string_get_width(run->glyphs) : 0;
 }
 
-CellPainter::Fit CellPainter::FitOf(int32_t character) {
-  std::unique_ptr<FitPage>& page = fits[character / kPageSize];
-  if (page == nullptr) page = std::make_unique<FitPage>();
-  Fit& fit = (*page)[character % kPageSize];
-  if (fit == Fit::Unknown) fit = ProbeFit(character);
-  return fit;
+const CellPainter::Shape& CellPainter::ShapeOf(int32_t character) {
+  std::unique_ptr<ShapePage>& page = shapes[character / kPageSize];
+  if (page == nullptr) page = std::make_unique<ShapePage>();
+  Shape& shape = (*page)[character % kPageSize];
+  if (shape.fit == Fit::Unknown) shape = ProbeShape(character);
+  return shape;
 }
 
-CellPainter::Fit CellPainter::ProbeFit(int32_t character) {
+CellPainter::Shape CellPainter::ProbeShape(int32_t character) {
   const std::string utf8 = ToBytes(character);
-  PangoLayoutRun* run = Shape(utf8.data(), static_cast<int>(utf8.size()), plainShaping.get());
-  if (pango_layout_get_unknown_glyphs_count(layout.get()) > 0) return Fit::Missing;
+  PangoLayoutRun* run = LayOut(utf8.data(), static_cast<int>(utf8.size()), plainShaping.get());
+  if (pango_layout_get_unknown_glyphs_count(layout.get()) > 0) return {Fit::Missing, {}};
   const bool regular = run != nullptr && run->item->analysis.font == mainFont.get() &&
                        run->item->analysis.level % 2 == 0 && run->glyphs->num_glyphs == 1 &&
                        run->glyphs->glyphs[0].geometry.width == advance && StandsAlone(character);
-  return regular ? Fit::Regular : Fit::Odd;
+  if (!regular) return {Fit::Odd, {}};
+  return {Fit::Regular, run->glyphs->glyphs[0]};
 }
 
 bool CellPainter::IsRegular(int32_t character) {
@@ -200,14 +203,48 @@ void CellPainter::DrawBackgrounds(cairo_t* cairo, int x, int y) const {
   }
 }
 
+// Where glyphs are as wide as cells their places are known, and nothing has to
+// be laid out.
 void CellPainter::DrawStretch(cairo_t* cairo, const Stretch& stretch, int x, int y) {
+  if (advance == cellWidth * PANGO_SCALE)
+    DrawGlyphs(cairo, &shown[stretch.first], stretch.end - stretch.first, x, y);
+  else
+    DrawLayout(cairo, stretch, x, y);
+}
+
+// One call for each run of one colour; blanks are of any.
+void CellPainter::DrawGlyphs(cairo_t* cairo, const Cell* cells, int count, int x, int y) {
+  for (int first = 0, end = 0; first < count; first = end) {
+    const uint8_t colour = Foreground(cells[first].attribute);
+    const auto isOfRun = [&](const Cell& cell) {
+      return cell.character == ' ' || Foreground(cell.attribute) == colour;
+    };
+    while (end < count && isOfRun(cells[end])) ++end;
+    pango_glyph_string_set_size(glyphs.get(), end - first);
+    for (int i = first; i < end; ++i) glyphs->glyphs[i - first] = GlyphOf(cells[i].character);
+    SetColour(cairo, colour);
+    cairo_move_to(cairo, x + first * cellWidth, y + baseline);
+    pango_cairo_show_glyph_string(cairo, mainFont.get(), glyphs.get());
+  }
+}
+
+// Blanks are not asked for their shape, and may have none of their own.
+PangoGlyphInfo CellPainter::GlyphOf(int32_t character) {
+  if (character != ' ') return ShapeOf(character).glyph;
+  PangoGlyphInfo blank{};
+  blank.glyph = PANGO_GLYPH_EMPTY;
+  blank.geometry.width = advance;
+  return blank;
+}
+
+void CellPainter::DrawLayout(cairo_t* cairo, const Stretch& stretch, int x, int y) {
   const int count = stretch.end - stretch.first;
   BuildRowText(&shown[stretch.first], count, rowText);
   const AttributesPtr attributes(pango_attr_list_copy(spacedShaping.get()));
   for (const AttributeRun& run : rowText.runs) {
     AddAttribute(attributes.get(), ForegroundAttribute(run.attribute), run.firstByte, run.endByte);
   }
-  Shape(rowText.utf8.data(), static_cast<int>(rowText.utf8.size()), attributes.get());
+  LayOut(rowText.utf8.data(), static_cast<int>(rowText.utf8.size()), attributes.get());
   if (IsAligned(count)) {
     cairo_move_to(cairo, x, y + baseline);
     pango_cairo_show_layout_line(cairo, pango_layout_get_line_readonly(layout.get(), 0));

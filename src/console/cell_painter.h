@@ -20,6 +20,10 @@ struct ObjectRelease {
 struct AttributesRelease {
   void operator()(PangoAttrList* list) const { pango_attr_list_unref(list); }
 };
+struct GlyphsRelease {
+  void operator()(PangoGlyphString* glyphs) const { pango_glyph_string_free(glyphs); }
+};
+using GlyphsPtr = std::unique_ptr<PangoGlyphString, GlyphsRelease>;
 using LayoutPtr = std::unique_ptr<PangoLayout, ObjectRelease>;
 using AttributesPtr = std::unique_ptr<PangoAttrList, AttributesRelease>;
 
@@ -53,22 +57,30 @@ class CellPainter {
     bool overhangs = false;  // its picture leaves the cell to a side
   };
   static constexpr int kPageSize = 256, kPages = 0x110000 / kPageSize;
-  using FitPage = std::array<Fit, kPageSize>;
+  struct Shape {
+    Fit fit = Fit::Unknown;
+    PangoGlyphInfo glyph{};  // of a regular character
+  };
+  using ShapePage = std::array<Shape, kPageSize>;
 
   void MeasureCell();
   void MeasureAdvance();
   void MeasureLines();
-  Fit FitOf(int32_t character);
-  Fit ProbeFit(int32_t character);
+  const Shape& ShapeOf(int32_t character);
+  Shape ProbeShape(int32_t character);
+  Fit FitOf(int32_t character) { return ShapeOf(character).fit; }
   bool IsRegular(int32_t character);
   int32_t Drawable(int32_t character);
 
   // Lays text out on the common layout; its one run, or null if there are more.
-  PangoLayoutRun* Shape(const char* utf8, int bytes, PangoAttrList* attributes);
+  PangoLayoutRun* LayOut(const char* utf8, int bytes, PangoAttrList* attributes);
   int AdvanceOf(char character);
 
   void DrawBackgrounds(cairo_t* cairo, int x, int y) const;
   void DrawStretch(cairo_t* cairo, const Stretch& stretch, int x, int y);
+  void DrawGlyphs(cairo_t* cairo, const Cell* cells, int count, int x, int y);
+  PangoGlyphInfo GlyphOf(int32_t character);
+  void DrawLayout(cairo_t* cairo, const Stretch& stretch, int x, int y);
   void DrawAlone(cairo_t* cairo, const Cell& cell, int x, int y);
   bool IsAligned(int cells) const;
   const OddGlyph& GlyphOfOdd(int32_t character);
@@ -79,15 +91,16 @@ class CellPainter {
   AttributesPtr plainShaping;   // each character by itself
   AttributesPtr spacedShaping;  // the same, and glyphs set at the cell's width
   int cellWidth = 0, cellHeight = 0;
-  int baseline = 0;  // pixels below the cell's top
-  int advance = 0;   // of a regular glyph, in Pango units
-  bool stretchesLines = false;  // the font's vertical line is shorter than a cell
+  int baseline = 0;                 // pixels below the cell's top
+  int advance = 0;                  // of a regular glyph, in Pango units
+  bool stretchesLines = false;      // the font's vertical line is shorter than a cell
   int lineTop = 0, lineHeight = 1;  // of that line, in pixels from the baseline
 
-  std::vector<std::unique_ptr<FitPage>> fits;  // by character / kPageSize
+  std::vector<std::unique_ptr<ShapePage>> shapes;  // by character / kPageSize
   std::unordered_map<int32_t, OddGlyph> oddGlyphs;
 
   std::vector<Cell> shown;  // the row in work
   std::vector<Stretch> stretches;
   RowText rowText;
+  GlyphsPtr glyphs;  // of the run in work
 };

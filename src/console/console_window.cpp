@@ -268,9 +268,13 @@ void CConsoleWindow::Paint(const TerminalDamage& damage) {
     RepaintMoved(drawnAhead, move.block, move.lines);
     RepaintMoved(selection.Selected(), move.block, move.lines);
   }
-  for (const CellRect& block : damage.Blocks()) Repaint(block);
-  drawnAhead = {};
-  DrawCursorCell();
+  bool isCursorDrawn = false;
+  for (const CellRect& block : damage.Blocks()) {
+    Repaint(block);
+    isCursorDrawn |= IsCursorIn(block);
+  }
+  if (!isCursorDrawn) DrawCursorCell();
+  drawnAhead = cursor.load().Cell();
   ++drawCount;
   area.EndHurry();
 }
