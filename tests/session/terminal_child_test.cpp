@@ -51,12 +51,15 @@ class SignalIgnored {
   void (*const before)(int);
 };
 
-// No further descriptor can be opened, while it lives.
+// No further descriptor can be opened, while it lives. The limit is not below
+// those that are open: the window's thread polls, which fails above it.
 class NoDescriptors {
  public:
   NoDescriptors() {
     getrlimit(RLIMIT_NOFILE, &before);
-    const rlimit none{0, before.rlim_max};
+    const int firstFree = dup(STDERR_FILENO);
+    close(firstFree);
+    const rlimit none{static_cast<rlim_t>(firstFree), before.rlim_max};
     setrlimit(RLIMIT_NOFILE, &none);
   }
   ~NoDescriptors() { setrlimit(RLIMIT_NOFILE, &before); }
