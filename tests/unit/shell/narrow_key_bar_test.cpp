@@ -4,6 +4,7 @@
 #include "config/values/colours.h"
 #include "config/values/options.h"
 #include "shell/key_bar.h"
+#include "support/cells.h"
 
 TEST(NarrowKeyBar, BelowTenColumnsThereIsNone) {
   Options::Colours[kColourMenuBar] = 0x30;
@@ -18,6 +19,6 @@ TEST(NarrowKeyBar, FromTenColumnsOnEachKeyHasAtLeastItsDigit) {
   for (int columns = kBarKeys; columns < 2 * kBarKeys; ++columns) {
     const CellString row = BuildKeyBar(BarLabels(0), columns);
     ASSERT_EQ(row.Length(), kBarKeys) << columns;
-    for (int i = 0; i < kBarKeys - 1; ++i) EXPECT_EQ(row[i].character, static_cast<char32_t>('1' + i));
+    for (int i = 0; i < kBarKeys - 1; ++i) EXPECT_EQ(CharacterOf(row[i]), '1' + i);
   }
 }
