@@ -69,6 +69,7 @@ class ListBoxBase : public DialogElement {
   void Confirm();
 
   int HandleMouse(const DialogEvent& event);
+  ListView PointAt(int shownRow);  // takes the focus; the cursor goes there
   int MouseOnRow(DialogEventType type, int shownRow);
   int ScrollFrom(DialogEventType type, int shownRow, bool (ListView::*scroll)());
 

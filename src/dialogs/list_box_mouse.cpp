@@ -31,7 +31,7 @@ int ListBoxBase::HandleMouse(const DialogEvent& event) {
   return shownRow >= 0 && shownRow < height ? MouseOnRow(type, shownRow) : 0;
 }
 
-int ListBoxBase::MouseOnRow(DialogEventType type, int shownRow) {
+ListView ListBoxBase::PointAt(int shownRow) {
   EndSearch();
   dialog.SetFocus(index);
   Settle();
@@ -39,6 +39,11 @@ int ListBoxBase::MouseOnRow(DialogEventType type, int shownRow) {
   view.PointAt(shownRow);
   SetView(view);
   TakeSelection();
+  return view;
+}
+
+int ListBoxBase::MouseOnRow(DialogEventType type, int shownRow) {
+  const ListView view = PointAt(shownRow);
   if (!view.HasItemAt(shownRow)) return 1;
   if (type == kDialogLeftDouble) Confirm();
   if (type == kDialogLeftRelease && exitMode == kListAnyKey) dialog.Accept();
@@ -49,13 +54,7 @@ int ListBoxBase::MouseOnRow(DialogEventType type, int shownRow) {
 // belongs to whatever else is there.
 int ListBoxBase::ScrollFrom(DialogEventType type, int shownRow, bool (ListView::*scroll)()) {
   if (type == kDialogLeftRelease) return 0;
-  EndSearch();
-  dialog.SetFocus(index);
-  Settle();
-  ListView view = View();
-  view.PointAt(shownRow);
-  SetView(view);
-  TakeSelection();
+  ListView view = PointAt(shownRow);
   while (!KeyPending() && (view.*scroll)()) {
     SetView(view);
     TakeSelection();
