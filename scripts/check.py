@@ -23,7 +23,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 SOURCE = ROOT / "src"
-ROOMS = ["foundation", "config/values", "console", "dialogs", "panels", "config", "shell", "program"]
+ROOMS = ["foundation", "config/values", "console", "dialogs", "panels", "config", "fileops", "shell", "program"]
 TOOLKIT = re.compile(r"^(gtk|gdk|glib|gio|pango|cairo|atk|gtkmm|gdkmm|glibmm|giomm|pangomm|cairomm|sigc\+\+|X11)\b")
 MOST_LINES = 700
 TEXTS = {".h", ".cpp", ".py", ".mjs", ".sh", ".cmake", ".txt", ".html", ".json", ".1"}
