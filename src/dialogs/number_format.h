@@ -9,5 +9,8 @@
 // just at a unit's limit, or more T than fit, is longer than the field.
 Westring FormatSize(uint64_t value, int width);
 
-// For counts and rates: at most 11 digits, and only K and M.
+// For counts: at most 11 digits, and only K and M.
 Westring FormatCount(uint64_t value, int width);
+
+// Bytes for each second, in the form of a count.
+inline Westring FormatRate(uint64_t value, int width) { return FormatCount(value, width); }

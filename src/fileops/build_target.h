@@ -4,9 +4,9 @@
 #include "foundation/strings.h"
 
 // spec is absolute; its last component may be a pattern, in which "*" stands for
-// the rest of a part of the name and "?" for a character. sourceName is the
-// source's path.
-void BuildTarget(const Westring& sourceName, const Westring& spec, Westring& out);
+// the rest of a part of the name and "?" for a character. source is the source's
+// path.
+void BuildTarget(const Westring& source, const Westring& spec, Westring& out);
 
 // True where the last component of spec holds "*" or "?".
 bool IsTargetPattern(const Westring& spec);

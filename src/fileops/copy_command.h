@@ -10,6 +10,10 @@ constexpr int kCommandHere = 2;  // the default destination is the bare name, in
 // target, where not null, takes the dialog's place.
 void CopyOrMove(TPanel& source, TPanel& other, int flags, const Westring* target);
 
-// The destination dialog's call of the directory tree; unset where there is
-// none. Fills path and returns true where the user chose one.
-extern bool (*ChooseInTree)(Westring& path);
+// What the rooms above add to copying; null where there is nothing yet. The choices
+// of the destination dialog fill path and return true where the user chose one.
+struct CopyHooks {
+  bool (*chooseInTree)(Westring& path) = nullptr;
+  bool (*chooseFromHistory)(Westring& path) = nullptr;  // of directories
+};
+extern CopyHooks TheCopyHooks;

@@ -10,8 +10,9 @@
 
 class ProgressPainter;
 
-// What the window shows. The copying thread writes, the painting one reads
-// without a lock: a torn value costs one wrong repaint.
+// What the window shows. The copying thread writes the numbers and the painting
+// one reads them without a lock: a torn value costs one wrong repaint. The texts
+// change under the painter's lock, in ShowItem only.
 struct TProgress {
   int64_t done = 0, total = 0;  // bytes of the whole command, or items of a move
   Westring sourceText, targetText;
@@ -26,7 +27,8 @@ struct TProgress {
   Estring shownCount;
 };
 
-// The rows of the window, as text: what there is to test without a screen.
+// The rows of the window, as text: what there is to test without a screen. The
+// bar is blank without a total, the line empty as long as there is no rate.
 Westring ProgressBar(int64_t done, int64_t total, int width);
 Estring RateLine(int64_t done, int64_t total, double elapsed);
 
@@ -39,13 +41,17 @@ class CopyProgress {
 
   // The item's names and its number; opens the window, or a wider one.
   void ShowItem(const Westring& source, const Westring& target, int index, int count);
-  // The painter runs between these; Stop is done before anything else draws.
+  // The painter runs between these; Stop is done before anything else draws, and
+  // returns when the window shows the last state. Each may be called twice.
   void Start();
   void Stop();
 
   TProgress state;
+  bool countsItems = false;  // of a move that only renames: done and total are items
 
  private:
+  void OpenWindow(int width);
+
   std::unique_ptr<Win> window;
   std::unique_ptr<ProgressPainter> painter;
   bool isMove;

@@ -1,0 +1,125 @@
+// The questions that copying and moving one item share.
+#include "fileops/item_policy.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "console/key_codes.h"
+#include "dialogs/prompt.h"
+#include "fileops/copy_file.h"
+#include "fileops/copy_progress.h"
+#include "fileops/delete_file.h"
+#include "fileops/file_error.h"
+#include "foundation/file_time.h"
+#include "panels/panel_path.h"
+
+namespace {
+
+bool IsDeviceMode(mode_t mode) { return S_ISCHR(mode) || S_ISBLK(mode) || S_ISFIFO(mode) || S_ISSOCK(mode); }
+
+bool Allows(const Westring& path, int access) {
+  return faccessat(AT_FDCWD, ToUtf8(path).Text(), access, AT_EACCESS | AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+// True where the item is to be tried again.
+bool TakesOpenFile(TransferItem& item, int& code) {
+  int& mode = item.operation.openFilesMode;
+  if (mode == kOpenFilesNever) return false;
+  const int answer =
+      item.operation.Ask(L"File is open for writing, copy anyway?", item.source, kPromptOkCancelSkipAllNone);
+  if (answer == 'a') mode = kOpenFilesAlways;
+  if (answer == 'e') mode = kOpenFilesNever;
+  if (answer == static_cast<int>(kEscape)) code = kStopCommand;
+  if (answer != 'y' && answer != 'a') return false;
+  item.flags |= kTakeOpenFile;
+  return true;
+}
+
+}  // namespace
+
+ObjectState LookAt(const Westring& path) {
+  const Estring bytes = ToUtf8(path);
+  struct stat status;
+  ObjectState state;
+  if (lstat(bytes.Text(), &status) != 0) return state;
+  state.exists = true;
+  state.isLink = S_ISLNK(status.st_mode);
+  state.modified = FromTimespec(status.st_mtim).Order();
+  if (state.isLink && stat(bytes.Text(), &status) != 0) return state;
+  state.isDirectory = S_ISDIR(status.st_mode);
+  state.isDevice = IsDeviceMode(status.st_mode);
+  return state;
+}
+
+TransferItem::TransferItem(FileOperation& command, const Westring& sourcePath, const Westring& targetPath,
+                           Descriptions* descriptions)
+    : operation(command),
+      source(sourcePath),
+      target(targetPath),
+      sources(descriptions),
+      flags(command.openFilesMode == kOpenFilesAlways ? kTakeOpenFile : 0) {}
+
+void TransferItem::StartPainter() {
+  if (operation.progress) operation.progress->Start();
+}
+
+void TransferItem::StopPainter() {
+  if (operation.progress) operation.progress->Stop();
+}
+
+bool RetriesAfter(TransferItem& item, int& code) {
+  if (code < 0) {
+    code = kStopCommand;
+    return false;
+  }
+  // The user was told of a read error, and a skipped item is his wish.
+  if (code == EIO || code == kSkipped) return false;
+  if (code == kSourceOpen) return TakesOpenFile(item, code);
+  return WantsRetry(item.operation, code, item.source, item.target);
+}
+
+Overwrite AskToOverwrite(TransferItem& item, int kind) {
+  int& mode = item.operation.overwriteMode;
+  if (mode == kOverwriteAlways) return Overwrite::Replace;
+  if (mode == kOverwriteNever) return Overwrite::Skip;
+  switch (item.operation.Ask(L"File already exists, Overwrite?", item.target, kind)) {
+    case 'y':
+      return Overwrite::Replace;
+    case 'a':
+      mode = kOverwriteAlways;
+      return Overwrite::Replace;
+    case 'd':
+      mode = kOverwriteIfOlder;
+      return Overwrite::TryAgain;
+    case 'e':
+      mode = kOverwriteNever;
+      return Overwrite::Skip;
+    case kEscape:
+      return Overwrite::Stop;
+    default:
+      return Overwrite::Skip;
+  }
+}
+
+bool RemovesTarget(TransferItem& item, int& code) {
+  item.StopPainter();
+  const int removed = DeleteFile(item.operation, item.target, kDeleteSilent);
+  if (removed < 0) code = kStopCommand;
+  return removed > 0;
+}
+
+bool CanGiveSource(const Westring& source, bool isMove) {
+  if (isMove && !Allows(ParentPath(source.Text()), W_OK | X_OK)) return false;
+  const ObjectState state = LookAt(source);
+  return state.isLink || (state.exists && Allows(source, R_OK));
+}
+
+int RefuseName(FileOperation& operation, const Westring& path) {
+  int code = EILSEQ;
+  bool stop = true;
+  ShowFileError(operation, code, stop, path);
+  return code < 0 ? kStopCommand : kSkipped;
+}
