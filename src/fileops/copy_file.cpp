@@ -1,0 +1,64 @@
+// The copy of one object; see copy_file.h. What kind it is decides who copies:
+// links here, directories in copy_directory.cpp, and what has contents in
+// copy_contents.cpp.
+#include "fileops/copy_file.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+
+#include "fileops/copy_job.h"
+#include "fileops/file_error.h"
+
+bool IsSameObject(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+namespace {
+
+// The same text at the new place, whatever it leads to there. A link without a
+// text counts as copied.
+int CopyLink(CopyJob& job) {
+  char text[PATH_MAX];
+  const ssize_t length = readlink(job.source.Text(), text, sizeof text - 1);
+  if (length <= 0) return 0;
+  text[length] = 0;
+  if (symlink(text, job.target.Text()) != 0) return errno;
+  if (job.isMove) unlink(job.source.Text());
+  return 0;
+}
+
+int CopyObject(CopyJob& job) {
+  if (lstat(job.source.Text(), &job.status) != 0) return errno;
+  if (S_ISLNK(job.status.st_mode)) return CopyLink(job);
+  if (S_ISDIR(job.status.st_mode)) return CopyDirectory(job);
+  return CopyContents(job);
+}
+
+// EIO as a result says that the user knows, so here he gets to know.
+int CopyAndTell(CopyJob& job) {
+  for (;;) {
+    int code = CopyObject(job);
+    if (code != EIO || job.told || !WantsRetry(job.operation, code, job.sourcePath)) return code;
+  }
+}
+
+}  // namespace
+
+int CopyFile(FileOperation& operation, const Westring& sourcePath, const Westring& targetPath, bool force,
+             bool isMove, Descriptions* sources, int flags) {
+  if (BreakState == 2) return kStopCommand;
+  int code = 0;
+  bool stopped = false;
+  {
+    BreakScope cancel;
+    CopyJob job{operation, cancel, sourcePath, targetPath, ToUtf8(sourcePath), ToUtf8(targetPath), {},
+                force,     isMove, sources,    flags};
+    code = CopyAndTell(job);
+    stopped = BreakState == 2;
+  }
+  // A cancel that came too late for this object is for those that follow.
+  if (stopped) RequestBreak();
+  return code;
+}
