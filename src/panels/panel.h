@@ -103,5 +103,9 @@ void SwapPanelRecords(TPanel& a, TPanel& b);
 struct PanelHooks {
   void (*drawInfo)(TPanel& panel) = nullptr;  // the inside of an info panel
   void (*readTree)(TPanel& panel) = nullptr;  // the rows of a tree panel
+  // Mark the directory of a tree panel's row, or it and all below it, as open or
+  // closed; the rows are made anew by the next read.
+  void (*openNode)(TPanel& panel, int row, bool open) = nullptr;
+  void (*openBranch)(TPanel& panel, int row, bool open) = nullptr;
 };
 extern PanelHooks ThePanelHooks;

@@ -10,6 +10,7 @@
 #include "panels/panel.h"
 #include "shell/command_line.h"
 #include "shell/completion.h"
+#include "shell/copy_commands.h"
 #include "shell/dialog_commands.h"
 #include "shell/dispatch.h"
 #include "shell/execute.h"
@@ -18,6 +19,8 @@
 #include "shell/panel_commands.h"
 #include "shell/panel_switches.h"
 #include "shell/scrollback_viewer.h"
+#include "shell/search_commands.h"
+#include "shell/select_commands.h"
 
 namespace {
 
@@ -125,12 +128,12 @@ int RunMountsOf(Shell& shell) {
 }
 
 constexpr CommandRow kCommands[] = {
-    {kGreyPlus, kPanelShown | kFilesPanel, nullptr},
-    {kGreyMinus, kPanelShown | kFilesPanel, nullptr},
-    {kGreyStar, kPanelShown | kFilesPanel, nullptr},
-    {kMenuSelectGroup, kPanelShown | kFilesPanel, nullptr},
-    {kMenuUnselectGroup, kPanelShown | kFilesPanel, nullptr},
-    {kMenuInvert, kPanelShown | kFilesPanel, nullptr},
+    {kGreyPlus, kPanelShown | kFilesPanel, RunSelect},
+    {kGreyMinus, kPanelShown | kFilesPanel, RunUnselect},
+    {kGreyStar, kPanelShown | kFilesPanel, InvertTags},
+    {kMenuSelectGroup, kPanelShown | kFilesPanel, RunSelect},
+    {kMenuUnselectGroup, kPanelShown | kFilesPanel, RunUnselect},
+    {kMenuInvert, kPanelShown | kFilesPanel, InvertTags},
     {kEnter, 0, RunEnter},
     {kAltEnter, 0, RunSeparate},
     {kEscape, 0, RunEscape},
@@ -147,7 +150,7 @@ constexpr CommandRow kCommands[] = {
     {kAltLeft, 0, CursorLeft},
     {CtrlLetter('s'), 0, CursorLeft},
     {kRight, 0, GoRight},
-    {kAltRight, 0, CursorRight},
+    {kAltRight, 0, CompleteOrGoRight},
     {CtrlLetter('d'), 0, CursorRight},
     {kHome, kListMove, GoFirst},
     {kEnd, kListMove, GoLast},
@@ -189,8 +192,8 @@ constexpr CommandRow kCommands[] = {
     {CtrlLetter('k'), 0, nullptr},
     {CtrlLetter('q'), 0, nullptr},
     {CtrlLetter('w'), kPanelShown | kFilesPanel | kNoArchive, RunGuiWindow},
-    {CtrlLetter('t'), 0, nullptr},
-    {CtrlLetter('y'), 0, nullptr},
+    {CtrlLetter('t'), 0, RunSelectAnywhere},
+    {CtrlLetter('y'), 0, RunUnselectAnywhere},
     {CtrlLetter('b'), 0, RunScrollBack},
     {kCtrlPageDown, kPanelShown | kEndsSearch, OpenEntryAsArchive},
     {CtrlDigit(3), kPanelShown | kEndsSearch, OpenEntryAsArchive},
@@ -200,16 +203,16 @@ constexpr CommandRow kCommands[] = {
     {CtrlPadDigit(9), kEndsSearch, GoToParent},
     {kCtrlM, 0, RunMountsOfActive},
     {kCtrlShiftM, 0, RunMountsOfActive},
-    {kAltUp, kPanelShown, PreviousTagged},
-    {kAltDown, kPanelShown, NextTagged},
+    {kAltUp, kPanelShown, SearchOrTaggedUp},
+    {kAltDown, kPanelShown, SearchOrTaggedDown},
     {kAltHome, kEndsSearch, GoToHome},
     {kAltBackspace, 0, DropSearchCharacter},
-    {kCtrlGreyPlus, 0, nullptr},
-    {kCtrlGreyMinus, 0, nullptr},
-    {kCtrlShiftGreyPlus, 0, nullptr},
-    {kCtrlShiftGreyMinus, 0, nullptr},
-    {kAltGreyPlus, 0, nullptr},
-    {kMenuRestoreSelection, 0, nullptr},
+    {kCtrlGreyPlus, 0, TagAllEntries},
+    {kCtrlGreyMinus, 0, ClearAllTags},
+    {kCtrlShiftGreyPlus, 0, TagAllEntries},
+    {kCtrlShiftGreyMinus, 0, ClearAllTags},
+    {kAltGreyPlus, 0, RestoreTags},
+    {kMenuRestoreSelection, 0, RestoreTags},
     {FKey(1), 0, RunHelp},
     {FKey(2), 0, nullptr},
     {ShiftFKey(2), 0, nullptr},
@@ -220,10 +223,10 @@ constexpr CommandRow kCommands[] = {
     {AltFKey(4), 0, nullptr},
     {CtrlShiftFKey(4), 0, nullptr},
     {ShiftFKey(4), 0, nullptr},
-    {FKey(5), kPanelShown | kFilesPanel | kEndsSearch, nullptr},
-    {FKey(6), kPanelShown | kFilesPanel | kEndsSearch, nullptr},
-    {ShiftFKey(5), kPanelShown | kFilesPanel | kNoArchive, nullptr},
-    {ShiftFKey(6), kPanelShown | kFilesPanel | kNoArchive, nullptr},
+    {FKey(5), kPanelShown | kFilesPanel | kEndsSearch, RunCopy},
+    {FKey(6), kPanelShown | kFilesPanel | kEndsSearch, RunMove},
+    {ShiftFKey(5), kPanelShown | kFilesPanel | kNoArchive, RunCopyHere},
+    {ShiftFKey(6), kPanelShown | kFilesPanel | kNoArchive, RunMoveHere},
     {FKey(7), kNoArchive, nullptr},
     {FKey(8), kPanelShown | kFilesPanel, nullptr},
     {ShiftFKey(7), 0, nullptr},

@@ -8,6 +8,7 @@
 #include "shell/menu_commands.h"
 #include "shell/mouse.h"
 #include "shell/panel_commands.h"
+#include "shell/search_commands.h"
 
 namespace {
 
@@ -98,8 +99,17 @@ bool CommandKey(Shell& shell) {
   return true;
 }
 
+// Alt with a character that no command has.
+bool SearchCharacter(Shell& shell) {
+  const Key character = AliasKey(shell.key);
+  if (character == shell.key) return false;
+  shell.redrawLevel = StartSearch(shell, character);
+  return true;
+}
+
 using Layer = bool (*)(Shell&);
-constexpr Layer kLayers[] = {PullDownMenu, PlainStarKey, PanelKey, SortKey, TextKey, CommandKey};
+constexpr Layer kLayers[] = {PullDownMenu, PlainStarKey, PanelKey,       SortKey,
+                             TextKey,      CommandKey,   SearchCharacter};
 
 }  // namespace
 

@@ -15,7 +15,6 @@ int GoRight(Shell& shell);
 int TagAndGoDown(Shell& shell);
 int PreviousTagged(Shell& shell);  // in a tree the directory beside
 int NextTagged(Shell& shell);
-int DropSearchCharacter(Shell& shell);
 
 int GoToRoot(Shell& shell);
 int GoToParent(Shell& shell);

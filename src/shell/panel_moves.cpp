@@ -1,6 +1,5 @@
 // Moving in the active panel's list.
 #include <algorithm>
-#include <cwchar>
 
 #include "panels/draw_panel.h"
 #include "panels/navigation.h"
@@ -9,6 +8,7 @@
 #include "shell/command_line.h"
 #include "shell/history.h"
 #include "shell/panel_commands.h"
+#include "shell/search_commands.h"
 
 int GoFirst(Shell& shell) {
   if (shell.bothHidden) return MoveLineStart(shell);
@@ -84,7 +84,7 @@ bool MovesByColumns(const TPanel& panel) {
 
 int GoRight(Shell& shell) {
   TPanel& panel = ActivePanel();
-  if (!MovesByColumns(panel)) return CursorRight(shell);
+  if (!MovesByColumns(panel)) return CompleteOrGoRight(shell);
   panel.quickSearch[0] = 0;
   const int rows = PanelRows;
   if (panel.CurrentIndex() + rows >= panel.count || rows + panel.cursorRow < panel.visibleEntries) {
@@ -152,13 +152,6 @@ int GoToRelated(Shell& shell, int step) {
 
 int PreviousTagged(Shell& shell) { return GoToRelated(shell, -1); }
 int NextTagged(Shell& shell) { return GoToRelated(shell, 1); }
-
-int DropSearchCharacter(Shell&) {
-  TPanel& panel = ActivePanel();
-  const size_t length = wcslen(panel.quickSearch);
-  if (length > 0) panel.quickSearch[length - 1] = 0;
-  return kRedrawNothing;
-}
 
 int ChangeSide(Shell&) {
   if (!OtherPanel().visible && ActivePanel().visible) return kRedrawNothing;
