@@ -13,3 +13,7 @@ void DeleteSelection(FileOperation& operation, TPanel& panel);
 
 // Shift-F8: deletes the one file that the user names.
 void DeleteNamedFile(TPanel& panel);
+
+// What DeleteSelection does to a panel on an archive; unset where no archive can
+// be changed, and then nothing is asked there either.
+extern void (*DeleteInArchive)(FileOperation& operation, TPanel& panel);

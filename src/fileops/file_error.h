@@ -4,6 +4,14 @@
 
 #include "fileops/file_operation.h"
 
+// How an error is told.
+struct FileErrorText {
+  Westring text;
+  bool aboutTarget;  // the place that was to be reached, where there is one; otherwise the source
+  int kind;          // of Prompt (dialogs/prompt.h)
+};
+FileErrorText DescribeFileError(int code);
+
 // Tells code about source, or about target where the text is about a place and
 // target is not empty. Esc turns code into -1. stop is false for "Retry" only.
 void ShowFileError(FileOperation& operation, int& code, bool& stop, const Westring& source,

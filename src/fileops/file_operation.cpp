@@ -9,6 +9,10 @@ FileOperation::FileOperation() = default;
 FileOperation::~FileOperation() = default;
 
 int FileOperation::Ask(const Westring& text, const Westring& subject, int kind) {
-  if (progress) progress->Stop();
+  StopProgress();
   return Prompt(text, subject, kind);
+}
+
+void FileOperation::StopProgress() {
+  if (progress) progress->Stop();
 }

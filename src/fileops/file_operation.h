@@ -38,7 +38,14 @@ struct FileOperation {
   CopyProgress* progress = nullptr;                // of a copy or move; null without one
   std::unique_ptr<DeletionWindow> deletionWindow;  // made by the first file that shows its name
 
+  // Of the directory of the file deleted last, so that a directory without
+  // descriptions is not searched for each of its files.
+  Westring describedDirectory;
+  bool hasDescriptions = false;
+
   // A question of Prompt (dialogs/prompt.h), asked with the progress painter
   // stopped. The answer's lower-case letter or 27.
   int Ask(const Westring& text, const Westring& subject, int kind);
+  // To be called before any other question draws.
+  void StopProgress();
 };

@@ -1,0 +1,23 @@
+// Names that are no text; see unspellable_names.h.
+#include "fileops/unspellable_names.h"
+
+#include <dirent.h>
+
+#include "fileops/directory_names.h"
+
+bool UnspellableNames::Has(const wchar_t* name) {
+  if (!isRead) Read();
+  for (const std::wstring& unspellable : names)
+    if (unspellable == name) return true;
+  return false;
+}
+
+void UnspellableNames::Read() {
+  isRead = true;
+  DIR* const stream = opendir(ToUtf8(directory).Text());
+  if (!stream) return;
+  Westring text;
+  while (const dirent* const found = readdir(stream))
+    if (!DecodeName(found->d_name, text)) names.emplace_back(text.Text());
+  closedir(stream);
+}
