@@ -14,6 +14,7 @@
 #include "shell/dialog_commands.h"
 #include "shell/dispatch.h"
 #include "shell/execute.h"
+#include "shell/file_commands.h"
 #include "shell/history.h"
 #include "shell/menu_commands.h"
 #include "shell/panel_commands.h"
@@ -227,10 +228,10 @@ constexpr CommandRow kCommands[] = {
     {FKey(6), kPanelShown | kFilesPanel | kEndsSearch, RunMove},
     {ShiftFKey(5), kPanelShown | kFilesPanel | kNoArchive, RunCopyHere},
     {ShiftFKey(6), kPanelShown | kFilesPanel | kNoArchive, RunMoveHere},
-    {FKey(7), kNoArchive, nullptr},
-    {FKey(8), kPanelShown | kFilesPanel, nullptr},
+    {FKey(7), kNoArchive, RunMakeDirectory},
+    {FKey(8), kPanelShown | kFilesPanel, RunDelete},
     {ShiftFKey(7), 0, nullptr},
-    {ShiftFKey(8), 0, nullptr},
+    {ShiftFKey(8), 0, RunDeleteNamed},
     {ShiftFKey(9), 0, RunSave},
     {kMenuSaveSetup, 0, RunSave},
     {FKey(10), 0, RunQuit},
