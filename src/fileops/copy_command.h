@@ -15,5 +15,7 @@ void CopyOrMove(TPanel& source, TPanel& other, int flags, const Westring* target
 struct CopyHooks {
   bool (*chooseInTree)(Westring& path) = nullptr;
   bool (*chooseFromHistory)(Westring& path) = nullptr;  // of directories
+  // Where one panel browses an archive.
+  void (*throughArchive)(TPanel& source, TPanel& other, bool isMove) = nullptr;
 };
 extern CopyHooks TheCopyHooks;

@@ -12,6 +12,7 @@
 #include "console/toolkit.h"
 #include "dialogs/dialog_history.h"
 #include "dialogs/help.h"
+#include "fileops/copy_command.h"
 #include "foundation/code_pages.h"
 #include "foundation/environment.h"
 #include "foundation/paths.h"
@@ -20,6 +21,7 @@
 #include "panels/read_panel.h"
 #include "shell/arguments.h"
 #include "shell/clock.h"
+#include "shell/copy_commands.h"
 #include "shell/exit_script.h"
 #include "shell/history_file.h"
 #include "shell/main_loop.h"
@@ -139,6 +141,7 @@ int RunWithConsole(int argc, char** argv) {
 
   LoadHistory();
   KeepDialogEntry = AppendDialogEntryToFile;
+  TheCopyHooks.chooseFromHistory = ChooseFromDirectoryHistory;
   OpenPanels(arguments);
   Shell shell;
   IdleHook = UpdateClock;
@@ -146,6 +149,7 @@ int RunWithConsole(int argc, char** argv) {
   ClosePanels(arguments);  // may still ask, with the clock running
   IdleHook = nullptr;
   KeepDialogEntry = nullptr;
+  TheCopyHooks = {};
   return 0;
 }
 
