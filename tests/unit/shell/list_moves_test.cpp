@@ -190,12 +190,3 @@ TEST_F(ListMoves, InsertTagsAndGoesDown) {
   EXPECT_EQ(After(TagAndGoDown), Position(0, 2));
   EXPECT_EQ(panel.taggedCount, 1);
 }
-
-TEST_F(ListMoves, AltBackspaceTakesTheLastCharacterOfTheSearch) {
-  CopyText(panel.quickSearch, L"ab");
-  DropSearchCharacter(shell);
-  EXPECT_STREQ(panel.quickSearch, L"a");
-  DropSearchCharacter(shell);
-  DropSearchCharacter(shell);
-  EXPECT_STREQ(panel.quickSearch, L"");
-}
