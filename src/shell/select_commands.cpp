@@ -1,7 +1,8 @@
 // Tagging by expression, all at once, and once more; in a tree the same keys open
-// and close its directories.
+// and close its directories. And the sizes of directories.
 #include "shell/select_commands.h"
 
+#include "panels/directory_sizes.h"
 #include "panels/read_panel.h"
 #include "panels/select_group.h"
 #include "panels/tags.h"
@@ -54,4 +55,13 @@ int ClearAllTags(Shell& shell) { return TagAllOrOpen(shell, -1); }
 int RestoreTags(Shell&) {
   RestoreSelection(ActivePanel());
   return kRedrawNothing;
+}
+
+int CountSizes(Shell&) {
+  CalculateDirSizes(ActivePanel(), false);
+  return kRedrawNothing;
+}
+
+int ViewEntry(Shell& shell) {
+  return shell.currentEntry && shell.currentEntry->IsDirectory() ? CountSizes(shell) : kRedrawNothing;
 }

@@ -1,4 +1,5 @@
-// Commands that tag more than one entry. Each returns what is to be painted.
+// Commands that tag more than one entry, and that count directories. Each returns
+// what is to be painted.
 #pragma once
 
 #include "shell/shell.h"
@@ -14,3 +15,6 @@ int InvertTags(Shell& shell);
 int TagAllEntries(Shell& shell);
 int ClearAllTags(Shell& shell);
 int RestoreTags(Shell& shell);
+int CountSizes(Shell& shell);
+// Of what is viewed, a directory shows its size.
+int ViewEntry(Shell& shell);
