@@ -47,8 +47,10 @@ class ItemCopy {
       if (answer == static_cast<int>(kEscape)) code = kStopCommand;
       return false;
     }
-    if (!existing.IsFile() || !CanGiveSource(item.source, false)) return RetriesAfter(item, code);
-    return ReplacesTarget(code);
+    const bool isInTheWay = existing.IsFile();
+    if (isInTheWay && CanGiveSource(item.source, false)) return ReplacesTarget(code);
+    if (isInTheWay) code = EACCES;
+    return RetriesAfter(item, code);
   }
 
   bool ReplacesTarget(int& code) {

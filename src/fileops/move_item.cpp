@@ -55,8 +55,10 @@ class ItemMove {
       renames = false;  // a device is written to
       return true;
     }
-    if (!existing.IsFile() || !CanGiveSource(item.source, true)) return RetriesAfter(item, code);
-    return ReplacesTarget(code);
+    const bool isInTheWay = existing.IsFile();
+    if (isInTheWay && CanGiveSource(item.source, true)) return ReplacesTarget(code);
+    if (isInTheWay) code = EACCES;
+    return RetriesAfter(item, code);
   }
 
   // Times play no part in a move: to take only what is newer is asked like the rest.
