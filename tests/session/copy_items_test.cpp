@@ -344,17 +344,34 @@ TEST(CopyItems, EscInALargeSetKeepsTheRestTagged) {
   EXPECT_TRUE(s.Row(24).StartsWith("1Help"));
 }
 
+TEST(CopyItems, EscWhileDirectoriesAreCountedCopiesNothing) {
+  Session s({{"left/dir/a", "1"}, {"left/b", "2"}});
+  TagNames(s, {"b", "dir"});
+  s.KeysTypedAhead("F5 Enter Esc");
+  EXPECT_EQ(s.Names(kRightSide), Strings{".."});
+  EXPECT_EQ(Tagged(kLeftSide), (Strings{"dir", "b"}));
+}
+
+TEST(CopyItems, AListThatIsSortedAnewByTheCountLeadsToNoOtherEntry) {
+  Session s({{"left/small/", ""}, {"left/big/a", "12345"}, {"left/tiny/", ""}});
+  s.Keys("Ctrl-F6");
+  GoTo(s, "big");
+  s.Keys("F5 Enter");
+  EXPECT_EQ(s.Names(kRightSide), (Strings{"..", "big"}));
+  GoTo(s, "tiny");
+  s.Keys("F5 Enter");
+  EXPECT_EQ(s.Names(kRightSide), (Strings{"..", "big", "tiny"}));
+}
+
 TEST(CopyItems, FromTheRightGoToTheLeft) {
   Session s({{"right/a.txt", "one"}});
   s.Keys("Tab Down F5 Enter");
   EXPECT_EQ(s.Content("left/a.txt"), "one");
 }
 
-TEST(CopyItems, AreInTheMenuToo) {
+TEST(CopyItems, StartFromTheMenuToo) {
   Session s({{"left/a.txt", "one"}});
   GoTo(s, "a.txt");
-  s.Keys("F9");
-  s.Keys("Esc");
   s.Command(FKey(5));
   s.Keys("Enter");
   EXPECT_EQ(s.Content("right/a.txt"), "one");
