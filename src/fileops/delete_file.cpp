@@ -58,7 +58,6 @@ class FileDeletion {
           continue;
         }
       }
-      ShowNameAtOnce();
       if (!WantsRetry(operation, code, object.Path())) return code < 0 ? kStopCommand : 0;
     }
   }
@@ -71,18 +70,12 @@ class FileDeletion {
 
   Consent Ask() {
     if (ReadOnlyMode() == kReadOnlyAll) return Consent::Yes;
-    ShowNameAtOnce();
     return AskReadOnly(operation, L"File is Read Only, Delete anyway?", object);
   }
 
   void ShowName() {
     if (!operation.deletionWindow) operation.deletionWindow = std::make_unique<DeletionWindow>();
     if (operation.deletionWindow->IsDue()) operation.deletionWindow->Show(object.Path());
-  }
-
-  // A question is about the file that the window names.
-  void ShowNameAtOnce() {
-    if (!IsSilent()) operation.deletionWindow->Show(object.Path());
   }
 
   FileOperation& operation;
