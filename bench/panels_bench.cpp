@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cwchar>
+#include <functional>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
@@ -14,11 +16,13 @@
 #include "panels/panel.h"
 #include "panels/read_panel.h"
 #include "panels/sort_order.h"
+#include "panels/tags.h"
 #include "scratch.h"
 #include "table.h"
 
 namespace {
 
+constexpr int kManyEntries = 1'000'000;
 constexpr double kReadLimit = 1.5, kSortLimit = 1.2, kMemoryLimit = 1.3;
 
 // Files whose names come in no order, 15 to 21 characters long.
@@ -108,6 +112,63 @@ BenchRow MeasureMemory(const Scratch& directory, const std::string& what) {
   return {what, "MB", taken, static_cast<double>(bytes) / 1e6, kMemoryLimit};
 }
 
+// Nanoseconds for each entry of a listing, of which two hundred are in view.
+class EachEntry {
+ public:
+  EachEntry(const Scratch& directory, int repeats) : rounds(repeats) {
+    Read(panel, directory);
+    PanelRows = kRowsInView;
+    panel.visibleEntries = kRowsInView;
+    unsorted.assign(panel.entries, panel.entries + panel.count);
+    std::mt19937_64 random(2);
+    for (entry* e : unsorted) {
+      e->size = static_cast<int64_t>(random() >> 30);
+      e->modified = {static_cast<uint32_t>(random()), static_cast<uint32_t>(random())};
+    }
+  }
+
+  BenchRow Tagging() {
+    return Row("tag all", [this] {
+      TagAll(panel, -1, false);
+      return Seconds([this] { TagAll(panel, 1, false); });
+    });
+  }
+
+  BenchRow Inverting() {
+    return Row("invert", [this] { return Seconds([this] { TagAll(panel, 0, false); }); });
+  }
+
+  BenchRow Sorting(int key) {
+    return Row(std::string("sort by ") + kSortNames[key], [this, key] {
+      std::copy(unsorted.begin(), unsorted.end(), panel.entries);
+      panel.sortKey = key;
+      return Seconds([this] { SortEntries(panel); });
+    });
+  }
+
+ private:
+  static constexpr int kRowsInView = 200;
+
+  BenchRow Row(const std::string& what, const std::function<double()>& seconds) {
+    std::vector<double> times;
+    for (int i = 0; i < rounds; ++i) times.push_back(seconds());
+    const std::string of = ", each of " + std::to_string(panel.count) + " entries";
+    return {what + of, "ns", Median(times) * 1e9 / panel.count, std::nullopt, std::nullopt};
+  }
+
+  const int rounds;
+  TPanel panel;
+  std::vector<entry*> unsorted;
+};
+
+void MeasureEachEntry(const Scratch& directory, int rounds, std::vector<BenchRow>& rows) {
+  EachEntry list(directory, rounds);
+  rows.push_back(list.Tagging());
+  rows.push_back(list.Inverting());
+  for (int key = 0; key < kSortKeys; ++key)
+    if (key % (kSortKeys / 2) != kSortUnsorted) rows.push_back(list.Sorting(key));
+}
+
 void Measure(int files, int rounds, std::vector<BenchRow>& rows) {
   const Scratch directory;
   FillWithFiles(directory, files);
@@ -120,6 +181,7 @@ void Measure(int files, int rounds, std::vector<BenchRow>& rows) {
       "sorting " + count + " by name", rounds, kSortLimit, [&] { return sorter.SortingTime(); },
       [&] { return sorter.LibrarySortingTime(); }));
   rows.push_back(MeasureMemory(directory, "memory of " + count));
+  if (files >= kManyEntries) MeasureEachEntry(directory, rounds, rows);
 }
 
 }  // namespace
@@ -128,6 +190,6 @@ int main() {
   const BenchConsole console;  // for the progress box of a long read
   std::vector<BenchRow> rows;
   Measure(100'000, 11, rows);
-  Measure(1'000'000, 5, rows);
+  Measure(kManyEntries, 5, rows);
   return PrintRows(rows);
 }

@@ -87,7 +87,7 @@ class DirectoryWalk {
         break;
     }
     Tell(levels.back());
-    return levels.back().bytes;
+    return cancel.Stopped() ? kCountStopped : levels.back().bytes;
   }
 
  private:

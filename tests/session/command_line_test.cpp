@@ -220,6 +220,6 @@ TEST(CommandLine, AStarOfTheGreyKeyIsTypedWhereInvertingIsOff) {
   Session s({}, {.settings = "DisableInvert=on\n"});
   s.Keys("'ls ' Grey*");
   EXPECT_EQ(LineOf(s), "ls *");
-  s.Keys("Grey+ Grey-");
+  s.Keys("Grey+ Esc Grey- Esc");
   EXPECT_EQ(LineOf(s), "ls *");
 }

@@ -91,7 +91,7 @@ TEST_F(DirectoryCountTest, WhatIsNotThereCountsAsEmpty) {
 
 // Deeper than descriptors are kept, and than a path can tell.
 TEST_F(DirectoryCountTest, DeepTreesAreCountedToTheirEnd) {
-  constexpr int kDepth = 1500;
+  constexpr int kDepth = 500;
   const std::string name(10, 'd');
   const int start = open(".", O_RDONLY | O_DIRECTORY);
   ASSERT_EQ(chdir(scratch.Path().c_str()), 0);
