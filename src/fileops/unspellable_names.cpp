@@ -7,9 +7,7 @@
 
 bool UnspellableNames::Has(const wchar_t* name) {
   if (!isRead) Read();
-  for (const std::wstring& unspellable : names)
-    if (unspellable == name) return true;
-  return false;
+  return !names.empty() && names.contains(name);
 }
 
 void UnspellableNames::Read() {
@@ -18,6 +16,6 @@ void UnspellableNames::Read() {
   if (!stream) return;
   Westring text;
   while (const dirent* const found = readdir(stream))
-    if (!DecodeName(found->d_name, text)) names.emplace_back(text.Text());
+    if (!DecodeName(found->d_name, text)) names.emplace(text.Text());
   closedir(stream);
 }

@@ -2,8 +2,8 @@
 // what they are, and may well be the name of another file.
 #pragma once
 
+#include <set>
 #include <string>
-#include <vector>
 
 #include "foundation/strings.h"
 
@@ -19,6 +19,6 @@ class UnspellableNames {
   void Read();
 
   Westring directory;
-  std::vector<std::wstring> names;  // as they read
+  std::set<std::wstring> names;  // as they read
   bool isRead = false;
 };
