@@ -17,16 +17,20 @@ constexpr int kRounds = 7;
 
 // Four levels of directories.
 std::string DirectoryName(int i) {
-  const std::string top = "d" + std::to_string(i / 100);
-  return top + "/e" + std::to_string(i / 10 % 10) + "/f" + std::to_string(i % 10);
+  char name[32];
+  snprintf(name, sizeof name, "d%d/e%d/f%d", i / 100, i / 10 % 10, i % 10);
+  return name;
 }
 
 void FillWithTree(const Scratch& tree) {
   for (int i = 0; i < kDirectories; ++i) {
     const std::string directory = DirectoryName(i);
     tree.Write(directory + "/first", "some bytes");
-    for (int file = 1; file < kFilesInEach; ++file)
-      tree.MakeEmptyFile(directory + "/" + std::to_string(file) + ".txt");
+    for (int file = 1; file < kFilesInEach; ++file) {
+      char name[48];
+      snprintf(name, sizeof name, "%s/%d.txt", directory.c_str(), file);
+      tree.MakeEmptyFile(name);
+    }
   }
 }
 
