@@ -39,9 +39,9 @@ int RunSeparate(Shell& shell) { return RunLine(shell, true); }
 
 int RunEscape(Shell& shell) {
   if (shell.modifiers & kModCtrl) return InsertLeftPath(shell);
+  ActivePanel().quickSearch[0] = 0;
   if (shell.commandLine.IsEmpty() && Options::EscPanelSwitch) return SwitchBothPanels(shell);
   EmptyCommandLine(shell);
-  ActivePanel().quickSearch[0] = 0;
   shell.cursorDirty = true;
   return kRedrawLine;
 }

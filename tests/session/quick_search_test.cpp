@@ -159,3 +159,10 @@ TEST_F(Plain, ShiftedCharactersAreFound) {
   s.Keys("Home Alt-Shift-_");
   EXPECT_EQ(s.Under(kLeftSide), "_y");
 }
+
+TEST(PlainSearch, EscEndsItAlsoWhereItSwitchesThePanels) {
+  Session s(kFiles, {.settings = "StickyAlt=off\nEscPanelSwitch=on\n"});
+  s.Keys("Alt-a Esc Esc");
+  ASSERT_TRUE(IsShown(s, kLeftSide));
+  EXPECT_NE(Status(s).substr(0, 6), "Search");
+}
