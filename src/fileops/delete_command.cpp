@@ -75,11 +75,10 @@ bool ConfirmSelection(FileOperation& operation, const TPanel& panel) {
 // 1 or 0 where the command goes on, -1 where it stops.
 int DeleteObject(FileOperation& operation, const Westring& path, bool isDirectory, int mode,
                  UnspellableNames& unspellable) {
-  if (unspellable.Has(LastComponent(path.Text()))) {
+  while (unspellable.Has(LastComponent(path.Text()))) {
     int code = EILSEQ;
-    while (WantsRetry(operation, code, path)) {
-    }
-    return code < 0 ? kStopCommand : 0;
+    if (!WantsRetry(operation, code, path)) return code < 0 ? kStopCommand : 0;
+    unspellable.Forget();
   }
   return isDirectory ? DeleteDirectory(operation, path) : DeleteFile(operation, path, mode);
 }

@@ -74,7 +74,10 @@ class FileDeletion {
   }
 
   void ShowName() {
-    if (!operation.deletionWindow) operation.deletionWindow = std::make_unique<DeletionWindow>();
+    if (!operation.deletionWindow) {
+      operation.StopProgress();
+      operation.deletionWindow = std::make_unique<DeletionWindow>();
+    }
     if (operation.deletionWindow->IsDue()) operation.deletionWindow->Show(object.Path());
   }
 

@@ -12,6 +12,7 @@ bool UnspellableNames::Has(const wchar_t* name) {
 
 void UnspellableNames::Read() {
   isRead = true;
+  names.clear();
   DIR* const stream = opendir(ToUtf8(directory).Text());
   if (!stream) return;
   Westring text;

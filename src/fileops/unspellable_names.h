@@ -14,6 +14,7 @@ class UnspellableNames {
 
   // True if some name that is not this one reads as it.
   bool Has(const wchar_t* name);
+  void Forget() { isRead = false; }  // the next question reads again
 
  private:
   void Read();

@@ -3,7 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstdlib>
+#include <cstdio>
 
 #include "config/values/options.h"
 #include "session/copy_screen.h"
@@ -328,6 +328,16 @@ TEST(DeleteCommand, ANameThatIsNoTextIsRefusedAndItsLikeStays) {
   EXPECT_FALSE(s.Exists("left/plain"));
   EXPECT_EQ(s.Content("left/caf\xE9"), "raw");
   EXPECT_EQ(s.Content("left/caf\xC3\xA9"), "text");
+}
+
+TEST(DeleteCommand, AnotherTryTakesTheFileThatIsTextOnceItsLikeHasGone) {
+  Session s({{"left/caf\xE9", ""}, {"left/caf\xC3\xA9", ""}}, {.settings = "Confirmations=3\n"});
+  GoTo(s, "caf\xC3\xA9");
+  s.Keys("F8 r");
+  EXPECT_TRUE(Shows(s, "(84)"));
+  ASSERT_EQ(rename(s.Path("left/caf\xE9").c_str(), s.Path("left/cafe").c_str()), 0);
+  s.Keys("r");
+  EXPECT_EQ(s.Names(kLeftSide), (Strings{"..", "cafe"}));
 }
 
 TEST(DeleteCommand, OddNamesAreDeletedAsTheyAre) {
