@@ -1,8 +1,8 @@
 // F5 and F6: which entries, where to, and one after the other.
 #include "fileops/copy_command.h"
 
+#include <cerrno>
 #include <cwchar>
-#include <vector>
 
 #include "config/values/options.h"
 #include "console/input.h"
@@ -12,8 +12,8 @@
 #include "fileops/copy_item.h"
 #include "fileops/copy_progress.h"
 #include "fileops/delete_file.h"
-#include "fileops/directory_names.h"
-#include "fileops/item_policy.h"
+#include "fileops/file_error.h"
+#include "fileops/unspellable_names.h"
 #include "foundation/paths.h"
 #include "panels/directory_sizes.h"
 #include "panels/draw_panel.h"
@@ -37,42 +37,7 @@ Westring DirectoryOf(const TPanel& panel) {
   return panel.IsTree() ? TreeRowPath(panel, panel.CurrentIndex()) : Westring(panel.path);
 }
 
-// Names that may not lead back to what they were read from.
-bool NeedsLook(const wchar_t* name) {
-  for (; *name; ++name)
-    if (*name >= 0x80 || *name < 0 || *name == L'/') return true;
-  return false;
-}
-
 bool IsRealDirectory(const entry& e) { return e.IsDirectory() && !e.IsLink(); }
-
-// Answers for the names of one directory, which it reads at most once.
-class UnholdableNames {
- public:
-  explicit UnholdableNames(const Westring& path) : directory(path) {}
-
-  bool Has(const wchar_t* name) {
-    if (!NeedsLook(name)) return false;
-    if (!isRead) Read();
-    for (const Westring& unholdable : found)
-      if (wcscmp(unholdable.Text(), name) == 0) return true;
-    return false;
-  }
-
- private:
-  void Read() {
-    isRead = true;
-    DirectoryNames names;
-    if (names.Read(directory) != 0) return;
-    Westring text;
-    while (const char* name = names.Next())
-      if (!DecodeName(name, text)) found.push_back(text);
-  }
-
-  Westring directory;
-  std::vector<Westring> found;
-  bool isRead = false;
-};
 
 class CopyCommand {
  public:
@@ -97,7 +62,10 @@ class CopyCommand {
   }
 
  private:
-  Westring CurrentName() const { return LastComponent(sourcePath.Text()); }
+  // A name that is no text may read as one with a slash.
+  Westring CurrentName() const {
+    return source.IsTree() ? Westring(LastComponent(sourcePath.Text())) : Westring(current.name);
+  }
 
   Westring DefaultDestination() const {
     if (!other.IsVisibleFiles() || isHere) return CurrentName();
@@ -172,7 +140,8 @@ class CopyCommand {
     if (takesTags)
       TransferTagged(cancel);
     else
-      TransferOne(sourcePath, TargetOfOne(destination, sourcePath), 1, 1, IsRealDirectory(current));
+      TransferNamed(CurrentName(), sourcePath, TargetOfOne(destination, sourcePath), 1, 1,
+                    IsRealDirectory(current));
     if (movedDirectory && TheTreeHooks.save) TheTreeHooks.save();
     sources = nullptr;
     operation.progress = nullptr;
@@ -187,15 +156,24 @@ class CopyCommand {
       const Westring path = JoinPath(source.path, e.name);
       Westring target;
       BuildTarget(path, destination.path, target);
-      const int code = TransferOne(path, target, ++index, count, IsRealDirectory(e));
+      const int code = TransferNamed(e.name, path, target, ++index, count, IsRealDirectory(e));
       if (code == 0) MarkDone(e);
       if (code < 0 || cancel.Stopped()) return;
     }
   }
 
-  // As MoveItem and CopyItem.
+  // As MoveItem and CopyItem. A name that no path can be told for stays where it is.
+  int TransferNamed(const Westring& name, const Westring& path, const Westring& target, int index, int count,
+                    bool isDirectory) {
+    while (unspellable.Has(name.Text())) {
+      int code = EILSEQ;
+      if (!WantsRetry(operation, code, path)) return code < 0 ? kStopCommand : kSkipped;
+      unspellable.Forget();
+    }
+    return TransferOne(path, target, index, count, isDirectory);
+  }
+
   int TransferOne(const Westring& path, const Westring& target, int index, int count, bool isDirectory) {
-    if (unholdable.Has(LastComponent(path.Text()))) return RefuseName(operation, path);
     if (!isMove) return CopyItem(operation, path, target, index, count, sources);
     const int code = MoveItem(operation, path, target, index, count, sources);
     if (code != 0 && code != kMovedThenStop) return code;
@@ -223,7 +201,7 @@ class CopyCommand {
   const entry& current;       // stays in place while the list is sorted
   const Westring sourcePath;  // of the current entry
   const Westring directory;   // of all that is copied
-  UnholdableNames unholdable{directory};
+  UnspellableNames unspellable{directory};
   CopyDestination destination;
   FileOperation operation;
   bool onlyRenames = false;

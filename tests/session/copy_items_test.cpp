@@ -332,6 +332,30 @@ TEST(CopyItems, ANameThatIsNoTextIsRefused) {
   EXPECT_EQ(Tagged(kLeftSide).size(), 1u);
 }
 
+// Bytes that are a longer spelling of a letter or of a slash.
+TEST(CopyItems, ANameThatOnlyReadsAsAnotherIsRefused) {
+  for (const std::string name : {"\xC1\xA1", "sub\xC0\xAFx"}) {
+    Session s({{"left/" + name, "false"}, {"left/sub/x", "true"}});
+    s.Keys("End F6 Enter");
+    EXPECT_TRUE(Shows(s, "(84)")) << s.Screen();
+    s.Keys("r");
+    EXPECT_TRUE(Shows(s, "(84)")) << s.Screen();
+    s.Keys("s");
+    EXPECT_EQ(s.Content("left/sub/x"), "true");
+    EXPECT_EQ(s.Content("left/" + name), "false");
+    EXPECT_EQ(s.Names(kRightSide), Strings{".."});
+  }
+}
+
+TEST(CopyItems, AnotherTryTakesAFileOnceItsLikeHasGone) {
+  Session s({{"left/\xC3\xA9", "true"}, {"left/\xE9", "false"}});
+  s.Keys("End F5 Enter");
+  EXPECT_TRUE(Shows(s, "(84)"));
+  ASSERT_EQ(unlink(s.Path("left/\xE9").c_str()), 0);
+  s.Keys("r");
+  EXPECT_EQ(s.Content("right/\xC3\xA9"), "true");
+}
+
 TEST(CopyItems, EscInALargeSetKeepsTheRestTagged) {
   FileList files = NumberedFiles("left", 200);
   Session s(files);
