@@ -1,6 +1,5 @@
 // The copy of a directory with all it holds: each object in it is an item of its
 // own, with all that may be asked about one.
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -11,9 +10,9 @@
 #include "fileops/copy_item.h"
 #include "fileops/copy_job.h"
 #include "fileops/delete_file.h"
-#include "fileops/descriptor.h"
 #include "fileops/directory_names.h"
-#include "fileops/file_error.h"
+#include "fileops/item_policy.h"
+#include "fileops/target_inside.h"
 #include "foundation/paths.h"
 
 namespace {
@@ -27,33 +26,6 @@ bool NormaliseHere(const Westring& path, Westring& result) {
 bool BeginsWithPath(const Westring& path, const Westring& outer) {
   const Westring start = AddTrailingSlash(outer);
   return wcsncmp(AddTrailingSlash(path).Text(), start.Text(), wcslen(start.Text())) == 0;
-}
-
-// The target, or the directory that it is to be made in.
-int OpenAround(const CopyJob& job, Descriptor& directory) {
-  constexpr int kLook = O_PATH | O_DIRECTORY;
-  const int code = directory.Open(job.target.Text(), kLook);
-  if (code != ENOENT && code != ENOTDIR) return code;
-  const int slash = RFind(job.target, '/');
-  if (slash < 0) return directory.Open(".", kLook);
-  return directory.Open(slash == 0 ? "/" : Left(job.target, slash).Text(), kLook);
-}
-
-// The same however the paths are spelled: whether the source is met on the way
-// from the target up to the root.
-bool IsAboveTarget(const CopyJob& job) {
-  Descriptor directory;
-  if (OpenAround(job, directory) != 0) return false;
-  struct stat status = {}, below = {};
-  while (fstat(directory.Get(), &status) == 0) {
-    if (IsSameObject(status, job.status)) return true;
-    if (IsSameObject(status, below)) return false;  // the root is its own parent
-    below = status;
-    Descriptor parent;
-    if (parent.Open("..", O_PATH | O_DIRECTORY, 0, directory.Get()) != 0) return false;
-    directory = std::move(parent);
-  }
-  return false;
 }
 
 int AskForMerge(CopyJob& job) {
@@ -77,23 +49,11 @@ int MakeTarget(CopyJob& job) {
   return isFull || job.operation.mergeAll ? 0 : AskForMerge(job);
 }
 
-// A name that no path can be told for stays where it is, unless somebody gives
-// it another one meanwhile.
-int RefuseName(CopyJob& job, const DirectoryNames& names, const char* name, const Westring& shown) {
-  struct stat status;
-  while (names.Look(name, status)) {
-    int code = EILSEQ;
-    if (!WantsRetry(job.operation, code, JoinPath(job.sourcePath, shown)))
-      return code < 0 ? kStopCommand : kSkipped;
-  }
-  return 0;
-}
-
 int CopyName(CopyJob& job, const DirectoryNames& names, const char* name, Descriptions& descriptions) {
   struct stat status;
   if (!names.Look(name, status)) return 0;
   Westring text;
-  if (!DecodeName(name, text)) return RefuseName(job, names, name, text);
+  if (!DecodeName(name, text)) return RefuseName(job.operation, names, name, JoinPath(job.sourcePath, text));
   if (IsDescriptionsName(text)) return 0;  // its lines go with their files
   const Westring sourcePath = JoinPath(job.sourcePath, text);
   const bool lowers = job.operation.caseFilterOn && !names.LooksLikeDirectory(name);
@@ -133,7 +93,7 @@ int CopyDirectory(CopyJob& job) {
     job.operation.Ask(L"Invalid Path", source.IsEmpty() ? job.sourcePath : job.targetPath, kPromptOk);
     return kStopCommand;
   }
-  if (BeginsWithPath(target, source) || IsAboveTarget(job)) {
+  if (BeginsWithPath(target, source) || IsTargetInside(job.targetPath, job.status)) {
     job.operation.Ask(L"Directory cannot be copied into itself", job.sourcePath, kPromptOk);
     return kStopCommand;
   }

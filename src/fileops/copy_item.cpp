@@ -30,8 +30,8 @@ class ItemCopy {
   // 0 or what CopyFile gives.
   int Try() {
     if (!force && item.operation.overwriteMode == kOverwriteIfOlder) {
-      const ObjectState existing = LookAt(item.target);
-      if (existing.IsFile() && LookAt(item.source).modified <= existing.modified) return 0;
+      const ObjectState source = LookAt(item.source), existing = LookAt(item.target);
+      if (source.exists && existing.IsFile() && source.modified <= existing.modified) return 0;
       force = existing.IsFile();
     }
     item.StartPainter();
@@ -48,7 +48,7 @@ class ItemCopy {
       return false;
     }
     const bool isInTheWay = existing.IsFile();
-    if (isInTheWay && CanGiveSource(item.source, false)) return ReplacesTarget(code);
+    if (isInTheWay && CanGiveSource(item, false)) return ReplacesTarget(code);
     if (isInTheWay) code = EACCES;
     return RetriesAfter(item, code);
   }
@@ -66,7 +66,7 @@ class ItemCopy {
         break;
     }
     force = true;
-    return RemovesTarget(item, code);
+    return RemovesTarget(item, false, code);
   }
 
   TransferItem item;

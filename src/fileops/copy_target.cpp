@@ -35,6 +35,9 @@ int OpenExisting(const char* path, const struct stat& source, CopyTarget& target
   if (code != 0) return code == ELOOP ? EEXIST : code;
   if (fstat(target.file.Get(), &target.status) != 0) return errno;
   if (!S_ISREG(target.status.st_mode) || IsSameObject(target.status, source)) return EEXIST;
+  // Nobody has said that what else has this name's contents may go, which can be
+  // one of the next sources.
+  if (target.status.st_nlink > 1) return EEXIST;
   return ftruncate(target.file.Get(), 0) == 0 ? 0 : errno;
 }
 

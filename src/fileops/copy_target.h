@@ -16,7 +16,7 @@ struct CopyTarget {
 // One that is there is emptied with force, or else EACCES; a device or a pipe is
 // opened in any case, a pipe as soon as somebody reads from it, or -1 where the
 // user does not wait for that. EEXIST for what must not be written through: the
-// source itself by another name, or a link.
+// source itself by another name, a link, or one of several names of a file.
 int OpenCopyTarget(const char* path, const struct stat& source, bool force, BreakScope& cancel,
                    CopyTarget& target);
 

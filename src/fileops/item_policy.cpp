@@ -9,7 +9,9 @@
 
 #include "console/key_codes.h"
 #include "dialogs/prompt.h"
+#include "fileops/copy_destination.h"
 #include "fileops/copy_file.h"
+#include "fileops/copy_item.h"
 #include "fileops/copy_progress.h"
 #include "fileops/delete_file.h"
 #include "fileops/file_error.h"
@@ -22,6 +24,14 @@ bool IsDeviceMode(mode_t mode) { return S_ISCHR(mode) || S_ISBLK(mode) || S_ISFI
 
 bool Allows(const Westring& path, int access) {
   return faccessat(AT_FDCWD, ToUtf8(path).Text(), access, AT_EACCESS | AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+// In a directory for all, as those of temporary files, each may take his own only.
+bool IsKeptByOwner(const Westring& directory, const Westring& path) {
+  struct stat around, status;
+  const uid_t user = geteuid();
+  return user != 0 && stat(ToUtf8(directory).Text(), &around) == 0 && (around.st_mode & S_ISVTX) &&
+         around.st_uid != user && lstat(ToUtf8(path).Text(), &status) == 0 && status.st_uid != user;
 }
 
 // True where the item is to be tried again.
@@ -104,22 +114,30 @@ Overwrite AskToOverwrite(TransferItem& item, int kind) {
   }
 }
 
-bool RemovesTarget(TransferItem& item, int& code) {
+bool RemovesTarget(TransferItem& item, bool isMove, int& code) {
   item.StopPainter();
+  // The question may have stood for hours, and the source become the target.
+  if (!CanGiveSource(item, isMove) || IsSameObject(item.source, item.target)) return true;
   const int removed = DeleteFile(item.operation, item.target, kDeleteSilent);
   if (removed < 0) code = kStopCommand;
   return removed > 0;
 }
 
-bool CanGiveSource(const Westring& source, bool isMove) {
-  if (isMove && !Allows(ParentPath(source.Text()), W_OK | X_OK)) return false;
-  const ObjectState state = LookAt(source);
-  return state.isLink || (state.exists && Allows(source, R_OK));
+bool CanGiveSource(const TransferItem& item, bool isMove) {
+  const Westring parent = ParentPath(item.source.Text());
+  if (isMove && (!Allows(parent, W_OK | X_OK) || IsKeptByOwner(parent, item.source))) return false;
+  const ObjectState state = LookAt(item.source);
+  if (!state.exists) return false;
+  const bool needsBytes = !isMove || !AreOnOneDevice(parent, ParentPath(item.target.Text()));
+  return state.isLink || !needsBytes || Allows(item.source, R_OK);
 }
 
-int RefuseName(FileOperation& operation, const Westring& path) {
-  int code = EILSEQ;
-  bool stop = true;
-  ShowFileError(operation, code, stop, path);
-  return code < 0 ? kStopCommand : kSkipped;
+int RefuseName(FileOperation& operation, const DirectoryNames& names, const char* name,
+               const Westring& path) {
+  struct stat status;
+  while (names.Look(name, status)) {
+    int code = EILSEQ;
+    if (!WantsRetry(operation, code, path)) return code < 0 ? kStopCommand : kSkipped;
+  }
+  return 0;
 }

@@ -6,6 +6,7 @@
 
 #include "console/input.h"
 #include "fileops/descriptions.h"
+#include "fileops/directory_names.h"
 #include "fileops/file_operation.h"
 
 // What is at a path. A link counts as what it leads to, or as itself where that
@@ -44,17 +45,20 @@ bool RetriesAfter(TransferItem& item, int& code);
 enum class Overwrite { Replace, Skip, TryAgain, Stop };
 Overwrite AskToOverwrite(TransferItem& item, int kind);
 
-// Removes the file that is in the way: true if it went. Else code is what the
-// item ends with, unchanged for a file that was kept.
-bool RemovesTarget(TransferItem& item, int& code);
+// Removes the file that is in the way: true for another try, which finds it gone,
+// or tells what has happened to the source meanwhile. Else code is what the item
+// ends with, unchanged for a file that was kept.
+bool RemovesTarget(TransferItem& item, bool isMove, int& code);
 
 // For a name whose bytes do not come back from its characters: the path would
-// lead elsewhere. Tells of it; kSkipped or kStopCommand.
-int RefuseName(FileOperation& operation, const Westring& path);
+// lead elsewhere. It stays where it is, unless somebody gives it another one
+// meanwhile: kSkipped or kStopCommand, or 0 where it has gone.
+int RefuseName(FileOperation& operation, const DirectoryNames& names, const char* name, const Westring& path);
 
 // False where to take the old target away would be for nothing: the source can
-// not be read, or, for a move, not be taken out of its directory.
-bool CanGiveSource(const Westring& source, bool isMove);
+// not be read where that is needed, or, for a move, not be taken out of its
+// directory.
+bool CanGiveSource(const TransferItem& item, bool isMove);
 
 // Runs with the cancel state armed. A cancel that came too late for this item is
 // for those that follow.

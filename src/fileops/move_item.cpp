@@ -1,5 +1,6 @@
 // Moving one item: by renaming it, and only where that leads to another file
 // system by copying. The item's source goes last.
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -10,6 +11,7 @@
 #include "fileops/copy_progress.h"
 #include "fileops/directory_names.h"
 #include "fileops/item_policy.h"
+#include "fileops/target_inside.h"
 #include "foundation/paths.h"
 
 namespace {
@@ -56,7 +58,7 @@ class ItemMove {
       return true;
     }
     const bool isInTheWay = existing.IsFile();
-    if (isInTheWay && CanGiveSource(item.source, true)) return ReplacesTarget(code);
+    if (isInTheWay && CanGiveSource(item, true)) return ReplacesTarget(code);
     if (isInTheWay) code = EACCES;
     return RetriesAfter(item, code);
   }
@@ -68,7 +70,7 @@ class ItemMove {
         code = kStopCommand;
         return false;
       case Overwrite::Replace:
-        return RemovesTarget(item, code);
+        return RemovesTarget(item, true, code);
       default:
         return false;
     }
@@ -77,7 +79,7 @@ class ItemMove {
   // The source's contents go into the target that exists, then the source goes.
   bool Merges(int& code) {
     bool keptSome = false;
-    code = MoveContents(keptSome);
+    code = IsInsideItself() ? EINVAL : MoveContents(keptSome);  // as a rename says it
     if (code < 0) return false;
     if (code != 0) return RetriesAfter(item, code);
     if (keptSome) {
@@ -90,12 +92,17 @@ class ItemMove {
     return code != 0 && RetriesAfter(item, code);
   }
 
+  bool IsInsideItself() const {
+    struct stat status;
+    return lstat(ToUtf8(item.source).Text(), &status) == 0 && IsTargetInside(item.target, status);
+  }
+
   // The results of MoveItem.
-  int MoveName(const char* name, Descriptions& descriptions) {
+  int MoveName(const DirectoryNames& names, const char* name, Descriptions& descriptions) {
     Westring text;
     const bool isHeld = DecodeName(name, text);
     const Westring path = JoinPath(item.source, text);
-    if (!isHeld) return RefuseName(item.operation, path);
+    if (!isHeld) return RefuseName(item.operation, names, name, path);
     if (IsDescriptionsName(text)) return 0;  // its lines go with their files
     return MoveItem(item.operation, path, JoinPath(item.target, text), 1, 1, &descriptions);
   }
@@ -107,7 +114,7 @@ class ItemMove {
     Descriptions descriptions;
     descriptions.Open(item.source, true, false);
     while (const char* name = names.Next()) {
-      const int result = MoveName(name, descriptions);
+      const int result = MoveName(names, name, descriptions);
       if (result < 0) return result;
       if (result > 0) keptSome = true;
       if (cancel.Stopped()) return kStopCommand;

@@ -226,6 +226,75 @@ TEST_F(ItemFaults, ATargetStaysWhereTheSourceCannotLeaveItsDirectory) {
   chmod(own.Path("locked").c_str(), 0700);
 }
 
+TEST_F(ItemFaults, ARenameNeedsNoBytesOfTheSource) {
+  own.Make({{"source", "new"}, {"target", "old"}});
+  AsNobody nobody(own.Path());
+  ASSERT_EQ(chmod(own.Path("source").c_str(), 0), 0);
+  Answer("File already exists, Overwrite?", "Enter");
+  EXPECT_EQ(Move(), 0);
+  EXPECT_FALSE(own.Exists("source"));
+  ASSERT_EQ(chmod(own.Path("target").c_str(), 0600), 0);
+  EXPECT_EQ(own.Content("target"), "new");
+}
+
+TEST_F(ItemFaults, ATargetStaysWhereTheSourceBelongsToAnother) {
+  if (geteuid() != 0) GTEST_SKIP() << "needs two users";
+  own.Make({{"mine/target", "old"}, {"everybody/", ""}});
+  AsNobody nobody(own.Path());
+  const uid_t user = geteuid();
+  ASSERT_EQ(seteuid(0), 0);
+  own.Write("everybody/source", "new");
+  ASSERT_EQ(chown(own.Path("everybody").c_str(), 0, 0), 0);
+  ASSERT_EQ(chmod(own.Path("everybody").c_str(), 01777), 0);
+  ASSERT_EQ(seteuid(user), 0);
+  operation.overwriteMode = kOverwriteAlways;
+  Answer("Access Denied", "s");
+  EXPECT_EQ(Move("everybody/source", "mine/target"), EACCES);
+  EXPECT_EQ(own.Content("mine/target"), "old");
+}
+
+TEST_F(ItemFaults, ASourceThatBecomesTheTargetDuringTheQuestionStays) {
+  for (const bool isMove : {false, true}) {
+    own.Write("source", "new");
+    own.Write("target", "old");
+    Then([this] { ASSERT_EQ(rename(own.Path("source").c_str(), own.Path("target").c_str()), 0); });
+    Keys("Enter");
+    Answer("File not found", "Enter");
+    EXPECT_EQ(isMove ? Move() : Copy(), ENOENT);
+    EXPECT_EQ(own.Content("target"), "new");
+  }
+}
+
+TEST_F(ItemFaults, ATargetThatBecomesTheSourceDuringTheQuestionStays) {
+  own.Make({{"source", "new"}, {"target", "old"}});
+  Then([this] {
+    ASSERT_EQ(unlink(own.Path("target").c_str()), 0);
+    ASSERT_EQ(link(own.Path("source").c_str(), own.Path("target").c_str()), 0);
+  });
+  Keys("Enter");
+  Answer("File cannot overwrite itself", "Enter");
+  EXPECT_GT(Copy(), 0);
+  EXPECT_TRUE(own.Exists("target"));
+}
+
+TEST_F(ItemFaults, ASourceThatHasGoneIsNoOlderFile) {
+  own.Write("target", "old");
+  operation.overwriteMode = kOverwriteIfOlder;
+  Answer("File not found", "Enter");
+  EXPECT_EQ(Copy(), ENOENT);
+  EXPECT_EQ(own.Content("target"), "old");
+}
+
+TEST_F(ItemFaults, WhatElseHasTheContentsOfATargetKeepsThem) {
+  own.Make({{"from/log.1", "newest"}, {"from/log.2", "older"}, {"to/", ""}});
+  ASSERT_EQ(link(own.Path("from/log.2").c_str(), own.Path("to/log.1").c_str()), 0);
+  operation.overwriteMode = kOverwriteAlways;
+  EXPECT_EQ(Copy("from", "to"), 0);
+  EXPECT_EQ(own.Content("from/log.2"), "older");
+  EXPECT_EQ(own.Content("to/log.1"), "newest");
+  EXPECT_EQ(own.Content("to/log.2"), "older");
+}
+
 TEST_F(ItemFaults, ADirectoryThatTakesNoNamesIsDenied) {
   own.Make({{"source", "new"}, {"locked/", ""}});
   AsNobody nobody(own.Path());

@@ -188,6 +188,21 @@ TEST(MoveItems, DirectoriesAreMerged) {
   EXPECT_EQ(s.Content("right/dir/sub/z"), "old");
 }
 
+TEST(MoveItems, ADirectoryIsNotMergedIntoOneInside) {
+  Session s({{"left/dir/a", "one"}, {"left/dir/dir/", ""}, {"right/", ""}},
+            {.prepare = [](const Sandbox& box) {
+              ASSERT_EQ(symlink("../left/dir/dir", box.Path("right/dir").c_str()), 0);
+            }});
+  GoTo(s, "dir");
+  for (const char* destination : {"dir/dir", "../right/dir"}) {
+    s.Keys(std::string("F6 '") + destination + "' Enter");
+    EXPECT_TRUE(Shows(s, "Invalid argument (22)")) << destination;
+    s.Keys("s");
+    EXPECT_EQ(s.Content("left/dir/a"), "one") << destination;
+    EXPECT_FALSE(s.Exists("left/dir/dir/a")) << destination;
+  }
+}
+
 TEST(MoveItems, AMergeKeepsWhatWasSkippedAndItsDirectories) {
   Session s({{"left/dir/sub/a", "new"}, {"left/dir/b", "new"}, {"right/dir/sub/a", "old"}});
   TagNames(s, {"dir"});
@@ -215,7 +230,7 @@ TEST(MoveItems, AMergeRefusesANameThatIsNoText) {
               const_cast<Sandbox&>(box).Write("left/dir/\xE9", "latin");
             }});
   TagNames(s, {"dir"});
-  s.Keys("F6 Enter");
+  s.Keys("F6 Enter r");
   EXPECT_TRUE(Shows(s, "(84)"));
   s.Keys("s");
   EXPECT_EQ(s.Content("right/dir/ok"), "1");
