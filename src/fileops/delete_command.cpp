@@ -73,9 +73,10 @@ bool ConfirmSelection(FileOperation& operation, const TPanel& panel) {
 // ---- the deletion ------------------------------------------------------------
 
 // 1 or 0 where the command goes on, -1 where it stops.
-int DeleteObject(FileOperation& operation, const Westring& path, bool isDirectory, int mode,
-                 UnspellableNames& unspellable) {
-  while (unspellable.Has(LastComponent(path.Text()))) {
+int DeleteObject(FileOperation& operation, const Westring& directory, const Westring& name, bool isDirectory,
+                 int mode, UnspellableNames& unspellable) {
+  const Westring path = JoinPath(directory, name);
+  while (unspellable.Has(name.Text())) {
     int code = EILSEQ;
     if (!WantsRetry(operation, code, path)) return code < 0 ? kStopCommand : 0;
     unspellable.Forget();
@@ -108,27 +109,32 @@ void DeleteTagged(FileOperation& operation, TPanel& panel) {
     if (stop.Stopped()) break;
     const bool isDirectory = IsRealDirectory(e);
     treeChanged = treeChanged || isDirectory;
-    const Westring path = JoinPath(panel.path, e.name);
-    if (DeleteObject(operation, path, isDirectory, kDeleteBatch, unspellable) < 0) break;
+    if (DeleteObject(operation, panel.path, e.name, isDirectory, kDeleteBatch, unspellable) < 0) break;
     NoteProcessed(panel, e);
   }
   DeleteFile(operation, Westring(), kDeleteClose);
   if (treeChanged) SaveTree();
 }
 
-void DeleteOne(FileOperation& operation, const Westring& path, bool isDirectory) {
-  if (IsRootPath(path.Text())) return;
-  UnspellableNames unspellable(ParentPath(path.Text()));
-  DeleteObject(operation, path, isDirectory, kDeleteOne, unspellable);
+void DeleteOne(FileOperation& operation, const Westring& directory, const Westring& name, bool isDirectory) {
+  UnspellableNames unspellable(directory);
+  DeleteObject(operation, directory, name, isDirectory, kDeleteOne, unspellable);
   if (isDirectory) SaveTree();
+}
+
+void DeletePath(FileOperation& operation, const Westring& path, bool isDirectory) {
+  if (IsRootPath(path.Text())) return;
+  DeleteOne(operation, ParentPath(path.Text()), LastComponent(path.Text()), isDirectory);
 }
 
 void DeleteCurrent(FileOperation& operation, const TPanel& panel) {
   const entry* const current = panel.Current();
   if (!current || IsDotDot(*current)) return;
-  const Westring path =
-      panel.IsTree() ? TreeRowPath(panel, panel.CurrentIndex()) : JoinPath(panel.path, current->name);
-  DeleteOne(operation, path, IsRealDirectory(*current));
+  const bool isDirectory = IsRealDirectory(*current);
+  if (panel.IsTree())
+    DeletePath(operation, TreeRowPath(panel, panel.CurrentIndex()), isDirectory);
+  else
+    DeleteOne(operation, panel.path, current->name, isDirectory);
 }
 
 // ---- the file that the user names --------------------------------------------
@@ -167,7 +173,7 @@ void DeleteNamed(FileOperation& operation, const TPanel& panel, const Westring& 
   const bool isDirectory = IsRealDirectory(*found);
   const bool confirmed = ConfirmOne(operation, panel, path, *found);
   FreeEntry(found);
-  if (confirmed) DeleteOne(operation, path, isDirectory);
+  if (confirmed) DeletePath(operation, path, isDirectory);
 }
 
 }  // namespace

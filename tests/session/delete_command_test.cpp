@@ -330,6 +330,16 @@ TEST(DeleteCommand, ANameThatIsNoTextIsRefusedAndItsLikeStays) {
   EXPECT_EQ(s.Content("left/caf\xC3\xA9"), "text");
 }
 
+TEST(DeleteCommand, ANameThatOnlyReadsAsAWayToAnotherFileIsRefused) {
+  Session s({{"left/sub\xC0\xAFx", "false"}, {"left/sub/x", "true"}}, {.settings = "Confirmations=3\n"});
+  s.Keys("End F8");
+  EXPECT_TRUE(Shows(s, "(84)"));
+  s.Keys("s Ins F8");
+  EXPECT_TRUE(Shows(s, "(84)"));
+  s.Keys("s");
+  EXPECT_EQ(s.Content("left/sub/x"), "true");
+}
+
 TEST(DeleteCommand, AnotherTryTakesTheFileThatIsTextOnceItsLikeHasGone) {
   Session s({{"left/caf\xE9", ""}, {"left/caf\xC3\xA9", ""}}, {.settings = "Confirmations=3\n"});
   GoTo(s, "caf\xC3\xA9");
