@@ -177,6 +177,32 @@ TEST(CopyDialog, DoesNotOpenForTheWayUpNorForNothing) {
   EXPECT_FALSE(IsOpen(s));
 }
 
+TEST(CopyDialog, DoesNotOpenWithoutPanelsNorForAPanelOfInformation) {
+  Session s(kFiles);
+  GoTo(s, "a.txt");
+  for (const char* way : {"Ctrl-O", "Ctrl-L Tab"}) {
+    s.Keys(way);
+    for (const char* key : {"F5", "F6", "Shift-F5", "Shift-F6"}) {
+      s.Keys(key);
+      EXPECT_FALSE(IsOpen(s)) << way << key;
+    }
+    s.Keys(std::string(way) == "Ctrl-O" ? "Ctrl-O" : "Tab Ctrl-L");
+  }
+  s.Keys("F5");
+  EXPECT_TRUE(IsOpen(s));
+  s.Keys("Esc");
+}
+
+TEST(CopyDialog, EndsAQuickSearch) {
+  Session s(kFiles);
+  for (const char* key : {"F5", "F6"}) {
+    s.Keys("Alt-b");
+    EXPECT_EQ(Panels[kLeftSide].quickSearch[0], L'b');
+    s.Keys(std::string(key) + " Esc");
+    EXPECT_EQ(Panels[kLeftSide].quickSearch[0], 0) << key;
+  }
+}
+
 TEST(CopyDialog, ExpandsVariables) {
   Session s(kFiles, {.environment = {{"DEST", "../right"}}});
   GoTo(s, "a.txt");
@@ -249,4 +275,22 @@ TEST(CopyDialog, ASlashAtTheEndNamesADirectory) {
   EXPECT_TRUE(Shows(s, "File not found"));
   s.Keys("Esc");
   EXPECT_FALSE(s.Exists("left/none"));
+}
+
+TEST(CopyDialog, ASlashAtTheEndIsKeptForMany) {
+  Session s({{"left/sub/a", "one"}, {"right/sub/", ""}});
+  TagNames(s, {"sub"});
+  s.Keys("F5 '../right/sub' Enter");
+  EXPECT_EQ(s.Content("right/sub/a"), "one");
+  TagNames(s, {"sub"});
+  s.Keys("F5 '../right/sub/' Enter");
+  EXPECT_EQ(s.Content("right/sub/sub/a"), "one");
+}
+
+TEST(CopyDialog, ADeviceTakesMany) {
+  Session s(kFiles);
+  TagNames(s, {"a.txt", "b.txt"});
+  s.Keys("F5 '/dev/null' Enter");
+  EXPECT_TRUE(Tagged(kLeftSide).empty());
+  EXPECT_EQ(Processed(kLeftSide), (Strings{"a.txt", "b.txt"}));
 }
