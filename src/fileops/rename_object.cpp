@@ -7,26 +7,35 @@
 #include <cstdio>
 
 #include "fileops/copy_item.h"
+#include "fileops/copy_job.h"
+#include "fileops/descriptor.h"
 
 namespace {
-
-using RemovePlaceholder = int (*)(const char*);
 
 // For file systems that cannot refuse an existing target themselves. An empty
 // object of our own, made where nothing was, holds the place, and the source is
 // renamed over it: nobody else's can come in between.
-int RenameOverPlaceholder(const char* source, const char* target, bool isDirectory) {
-  if (isDirectory) {
-    if (mkdir(target, S_IRWXU) != 0) return errno;
-  } else {
-    const int placeholder = open(target, O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (placeholder < 0) return errno;
-    close(placeholder);
-  }
+int RenameOverDirectory(const char* source, const char* target) {
+  if (mkdir(target, S_IRWXU) != 0) return errno;
   if (rename(source, target) == 0) return 0;
   const int error = errno;
-  const RemovePlaceholder remove = isDirectory ? rmdir : unlink;
-  remove(target);
+  rmdir(target);
+  return error;
+}
+
+// The same for all that is no directory. What somebody has written to the place
+// meanwhile stays his.
+int RenameOverFile(const char* source, const char* target) {
+  Descriptor placeholder;
+  constexpr int kNew = O_CREAT | O_EXCL | O_WRONLY;
+  if (const int code = placeholder.Open(target, kNew, S_IRUSR | S_IWUSR)) return code;
+  struct stat made, left;
+  const bool isKnown = fstat(placeholder.Get(), &made) == 0;
+  placeholder.Close();
+  if (rename(source, target) == 0) return 0;
+  const int error = errno;
+  const bool isOurs = isKnown && lstat(target, &left) == 0 && IsSameObject(made, left) && left.st_size == 0;
+  if (isOurs) unlink(target);
   return error;
 }
 
@@ -41,7 +50,8 @@ int RenameObject(const Westring& sourcePath, const Westring& targetPath) {
   if (renameat2(AT_FDCWD, source.Text(), AT_FDCWD, target.Text(), RENAME_NOREPLACE) == 0) return 0;
   // EINVAL also for a directory that would go into itself, which then fails again.
   if (errno != EINVAL && errno != ENOSYS) return errno;
-  return RenameOverPlaceholder(source.Text(), target.Text(), S_ISDIR(status.st_mode));
+  const auto renameOver = S_ISDIR(status.st_mode) ? RenameOverDirectory : RenameOverFile;
+  return renameOver(source.Text(), target.Text());
 }
 
 bool IsSameObject(const Westring& a, const Westring& b) {

@@ -97,6 +97,16 @@ TEST_F(ItemFaults, AFailedRenameLeavesNoPlaceholder) {
   EXPECT_EQ(own.Content("directory/a"), "two");
 }
 
+TEST_F(ItemFaults, WhatSomebodyWritesToThePlaceholderStays) {
+  own.Write("source", "one");
+  Fault late(kCallRename,
+             {.path = own.Path("source"), .code = EIO, .before = [this] { own.Write("target", "other's"); }});
+  Fault first(kCallRename, AtSource(EINVAL));
+  EXPECT_EQ(RenameObject(Wide(own.Path("source")), Wide(own.Path("target"))), EIO);
+  EXPECT_EQ(own.Content("target"), "other's");
+  EXPECT_EQ(own.Content("source"), "one");
+}
+
 // ---- another file system -----------------------------------------------------
 
 TEST_F(ItemFaults, AcrossFileSystemsAFileIsCopiedAndItsSourceGoes) {
