@@ -9,6 +9,7 @@
 #include <span>
 
 #include "config/values/colours.h"
+#include "panels/sort_order.h"
 
 namespace {
 
@@ -28,8 +29,6 @@ Estring NameAt(std::span<const char* const> names, int index, int fallback) {
   return names[static_cast<size_t>(known ? index : fallback)];
 }
 
-constexpr const char* kSortNames[] = {"name",  "extension",  "time",  "size", "unsorted",
-                                      "rname", "rextension", "rtime", "rsize"};
 constexpr const char* kStyleNames[] = {"brief", "full", "wide", "briefwide", "unix", "tree"};
 constexpr const char* kTypeNames[] = {"files", "info"};
 constexpr int kByName = 0, kFullStyle = 1, kFilesType = 0;

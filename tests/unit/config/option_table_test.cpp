@@ -165,6 +165,14 @@ TEST_F(OptionTable, SortNamesInTheirOrder) {
   EXPECT_EQ(Options::LeftSort, 0);
 }
 
+TEST_F(OptionTable, UnsortedReversedComesBackAsUnsorted) {
+  Options::LeftSort = 9;
+  const std::string stored = TextOf("LeftSort");
+  EXPECT_EQ(stored, "unsorted");
+  Set("LeftSort", stored.c_str());
+  EXPECT_EQ(Options::LeftSort, 4);
+}
+
 TEST_F(OptionTable, TreeStyleIsWrittenButReadAsFull) {
   const char* names[] = {"brief", "full", "wide", "briefwide", "unix"};
   for (int i = 0; i < 5; ++i) {
