@@ -42,6 +42,12 @@ Stream OpenStream(int directory, const char* name) {
   return stream;
 }
 
+// A link to a directory is no file, and nothing is counted behind it.
+bool LeadsToDirectory(int directory, const char* link) {
+  struct stat target;
+  return fstatat(directory, link, &target, 0) == 0 && S_ISDIR(target.st_mode);
+}
+
 bool IsDots(const char* name) { return name[0] == '.' && (!name[1] || (name[1] == '.' && !name[2])); }
 
 // For whoever shows how far the count is.
@@ -162,8 +168,11 @@ class DirectoryWalk {
       level.names.append(found.d_name, strlen(found.d_name) + 1);
       return;
     }
+    if (type == DT_LNK) {
+      if (!LeadsToDirectory(dirfd(level.stream.get()), found.d_name)) ++count.files;
+      return;
+    }
     ++count.files;
-    if (type == DT_LNK) return;
     level.bytes += static_cast<uint64_t>(size);
     count.bytes += static_cast<uint64_t>(size);
   }
@@ -197,8 +206,8 @@ uint64_t CountInArchive(ArchiveLevel& archive, const Westring& interior, Directo
     const std::unique_ptr<EntrySource> source = archive.Open(directory);
     entry* e = nullptr;
     for (int code = source->First(e); code == 0; code = source->Next(e)) {
-      if (e->IsDirectory() && !e->IsLink()) {
-        if (!IsDotDot(*e) && wcscmp(e->name, L".") != 0)
+      if (e->IsDirectory()) {
+        if (!e->IsLink() && !IsDotDot(*e) && wcscmp(e->name, L".") != 0)
           pending.push_back(directory.IsEmpty() ? Westring(e->name) : JoinPath(directory, e->name));
       } else {
         ++count.files;

@@ -58,7 +58,7 @@ TEST_F(DirectoryCountTest, CountsGoOnFromOneDirectoryToTheNext) {
   EXPECT_EQ(count.directories, 2);
 }
 
-TEST_F(DirectoryCountTest, LinksAreFilesWithoutBytesAndAreNotFollowed) {
+TEST_F(DirectoryCountTest, LinksToFilesAreFilesWithoutBytesAndThoseToDirectoriesAreNone) {
   scratch.MakeDirectory("a");
   scratch.MakeDirectory("other");
   scratch.Write("other/big", std::string(1000, 'x'));
@@ -67,7 +67,7 @@ TEST_F(DirectoryCountTest, LinksAreFilesWithoutBytesAndAreNotFollowed) {
   ASSERT_EQ(symlink("..", scratch.Path("a/loop").c_str()), 0);
   ASSERT_EQ(symlink("nowhere", scratch.Path("a/dangling").c_str()), 0);
   EXPECT_EQ(Count("a"), 0u);
-  EXPECT_EQ(count.files, 4);
+  EXPECT_EQ(count.files, 2);
   EXPECT_EQ(count.directories, 1);
 }
 
@@ -155,7 +155,12 @@ TEST_F(DirectoryCountTest, AnArchiveIsCountedByItsOwnLists) {
   const FakeArchiveHook hook;
   FakeArchives[L"/x.zip"].directories = {
       {L"", {{L"..", kAttrDirectory}, {L"d", kAttrDirectory}, {L"f", 0, 7}}},
-      {L"d", {{L"..", kAttrDirectory}, {L"e", kAttrDirectory}, {L"g", 0, 10}, {L"l", kAttrLink, 50}}},
+      {L"d",
+       {{L"..", kAttrDirectory},
+        {L"e", kAttrDirectory},
+        {L"g", 0, 10},
+        {L"l", kAttrLink, 50},
+        {L"ld", kAttrDirectory | kAttrLink}}},
       {L"d/e", {{L"..", kAttrDirectory}, {L"h", 0, 100}}}};
   FakeLevel level(L"/x.zip");
   EXPECT_EQ(CountInArchive(level, L"d", count), 110u);
