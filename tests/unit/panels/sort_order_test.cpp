@@ -109,6 +109,15 @@ TEST(SortOrder, GroupsKeepTheirPlacesAlsoInReverse) {
   EXPECT_EQ(Sorted(items, kRSize), L".. d1 d2 .hidden file a");
 }
 
+TEST(SortOrder, TheWayUpLeadsByEveryKeyThatSorts) {
+  const std::vector<Item> items = {{L"_", 0, {9, 900}, kGroupDirectory},
+                                   {L"z.z", 900, {9, 900}, kGroupFile},
+                                   {L"..", 5, {0, 5}, kGroupUp},
+                                   {L".a", 0, {0, 0}, kGroupHidden}};
+  for (int key : {kName, kExtension, kTime, kSize, kRName, kRExtension, kRTime, kRSize})
+    EXPECT_EQ(Sorted(items, key), L".. _ .a z.z") << key;
+}
+
 TEST(SortOrder, NamesThatDifferInCaseKeepTheOrderTheyCameIn) {
   EXPECT_EQ(Sorted({{L"README"}, {L"readme"}, {L"a"}}, kName), L"a README readme");
   EXPECT_EQ(Sorted({{L"readme"}, {L"README"}, {L"a"}}, kName), L"a readme README");
