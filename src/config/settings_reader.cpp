@@ -59,7 +59,7 @@ const char* SeparatorsOf(int section) {
 
 void TakePair(const Estring& test, const Estring& value, int section) {
   const Westring expression(test.Text()), text(value.Text());
-  if (MatchName(expression.Text(), L"test") < 0) {
+  if (HasSyntaxError(expression)) {
     Complain(L"Syntax error in association", expression + L": " + text);
     return;
   }

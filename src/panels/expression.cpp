@@ -144,6 +144,8 @@ int MatchName(const wchar_t* expression, const wchar_t* name) {
   return MatchEntry(expression, *e);
 }
 
+bool HasSyntaxError(const Westring& expression) { return MatchName(expression.Text(), L"test") < 0; }
+
 bool TestRuleList(AssociationSet& rules, const entry& e, Westring& text) {
   for (int i = 0; i < rules.Count(); ++i) {
     const Association& rule = *rules.Peek(i);

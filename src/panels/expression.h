@@ -8,9 +8,11 @@
 // Non-zero if the entry matches, 0 if not, -1 for a syntax error.
 int MatchEntry(const wchar_t* expression, const entry& e);
 
-// The same for a name alone, all else zero. With the name "test" it is the
-// syntax check of every input.
+// The same for a name alone, all else zero.
 int MatchName(const wchar_t* expression, const wchar_t* name);
+
+// The check of every input.
+bool HasSyntaxError(const Westring& expression);
 
 // The text of the first rule whose expression matches; a rule with a syntax
 // error does. False if there is none.

@@ -40,7 +40,7 @@ bool AskExpression(int mode, bool& includeDirs) {
     if (result == static_cast<int>(kEscape)) return false;
     if (result == static_cast<int>(kAltD)) {
       includeDirs = !includeDirs;
-    } else if (MatchName(expression.Text(), L"test") < 0) {
+    } else if (HasSyntaxError(expression)) {
       Prompt(L"Syntax error in search expression", expression, kPromptOk);
     } else {
       TheExpression = expression;

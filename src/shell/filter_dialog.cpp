@@ -17,8 +17,6 @@ constexpr int kFieldWidth = 72;  // and the arrow of its history
 // In UTF-8 well within a line of the settings file.
 constexpr int kLongestFilter = 511;
 
-bool HasSyntaxError(const Westring& expression) { return MatchName(expression.Text(), L"test") < 0; }
-
 }  // namespace
 
 bool FilterDialog(int side) {
