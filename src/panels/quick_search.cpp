@@ -75,10 +75,7 @@ void SearchDown(TPanel& panel, int& direction) {
   SearchOn(panel, direction);
 }
 
-void DropCharacter(TPanel& panel, int&) {
-  const int length = TextLength(panel);
-  if (length > 0) panel.quickSearch[length - 1] = 0;
-}
+void Shorten(TPanel& panel, int&) { ShortenSearch(panel); }
 
 void Complete(TPanel& panel, int&) { CompleteSearch(panel); }
 
@@ -88,12 +85,8 @@ struct SearchKey {
 };
 
 constexpr SearchKey kSearchKeys[] = {
-    {kAltUp, SearchUp},
-    {kAltDown, SearchDown},
-    {kBackspace, DropCharacter},
-    {kAltBackspace, DropCharacter},
-    {kCtrlBackspace, DropCharacter},
-    {kShiftTab, Complete},
+    {kAltUp, SearchUp},       {kAltDown, SearchDown},    {kBackspace, Shorten},
+    {kAltBackspace, Shorten}, {kCtrlBackspace, Shorten}, {kShiftTab, Complete},
 };
 
 // Behind the text of the status line.
@@ -146,6 +139,11 @@ int QuickSearch(Key firstKey, TPanel& panel, Key* outKey, TMouseEvent* event, in
   panel.quickSearch[0] = 0;
   *outKey = key;
   return key == kEscape ? 0 : static_cast<int>(key);
+}
+
+void ShortenSearch(TPanel& panel) {
+  const int length = TextLength(panel);
+  if (length > 0) panel.quickSearch[length - 1] = 0;
 }
 
 void CompleteSearch(TPanel& panel) {

@@ -10,5 +10,8 @@
 // mouse did. The key that is left to act on, or 0.
 int QuickSearch(Key firstKey, TPanel& panel, Key* outKey, TMouseEvent* event, int direction);
 
+// Takes the last character off the search text.
+void ShortenSearch(TPanel& panel);
+
 // Extends the search text by what all names that begin with it share.
 void CompleteSearch(TPanel& panel);

@@ -1,8 +1,6 @@
 // The quick search as commands start it, go on with it and shorten it.
 #include "shell/search_commands.h"
 
-#include <cwchar>
-
 #include "panels/quick_search.h"
 #include "shell/command_line.h"
 #include "shell/panel_commands.h"
@@ -38,8 +36,6 @@ int CompleteOrGoRight(Shell& shell) {
 }
 
 int DropSearchCharacter(Shell&) {
-  TPanel& panel = ActivePanel();
-  const size_t length = wcslen(panel.quickSearch);
-  if (length > 0) panel.quickSearch[length - 1] = 0;
+  ShortenSearch(ActivePanel());
   return kRedrawNothing;
 }
