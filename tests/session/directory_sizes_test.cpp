@@ -64,17 +64,26 @@ TEST(DirectorySizes, NothingHappensWithoutARealDirectory) {
   const std::string before = s.Screen();
   s.Keys("Ctrl-Q");  // on ".."
   EXPECT_EQ(s.Screen(), before);
-  for (const char* keys : {"End Ctrl-Q", "Home Down Down Ctrl-Q"}) {
-    s.Keys(keys);
-    if (s.Under(kLeftSide) == "small") continue;
-    EXPECT_FALSE(s.FindRow("Reading Directories")) << keys;
-  }
-  if (s.FindRow("Reading Directories")) s.Keys("Enter");
-  s.Keys("End Ins Home Down Ctrl-Q");  // a tagged file; the cursor is on a directory
+  s.Keys("Down Down Ctrl-Q");
+  EXPECT_EQ(s.Under(kLeftSide), "link");
+  EXPECT_FALSE(s.FindRow("Reading Directories"));
+  s.Keys("End Ctrl-Q");
+  EXPECT_EQ(s.Under(kLeftSide), "file");
+  EXPECT_FALSE(s.FindRow("Reading Directories"));
+  s.Keys("Ins Home Down Down Ins Up Up Ctrl-Q");  // a file and a link are tagged
+  EXPECT_EQ(s.Under(kLeftSide), "big");
   EXPECT_FALSE(s.FindRow("Reading Directories"));
   EXPECT_FALSE(Named("big").sizeKnown);
-  s.Keys("Ctrl-O Ctrl-Q Ctrl-O");
   EXPECT_FALSE(Named("link").sizeKnown);
+}
+
+TEST(DirectorySizes, NothingHappensWhileThePanelIsOff) {
+  Session s(kFiles, {.settings = kPause});
+  s.Keys("Down Ctrl-O Ctrl-Q");
+  EXPECT_FALSE(s.FindRow("Reading Directories"));
+  s.Keys("Ctrl-O");
+  EXPECT_EQ(s.Under(kLeftSide), "big");
+  EXPECT_FALSE(Named("big").sizeKnown);
 }
 
 TEST(DirectorySizes, ThePauseKeepsTheBoxUntilItIsAnswered) {

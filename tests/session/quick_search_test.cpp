@@ -38,6 +38,20 @@ TEST_F(Sticky, GoesOnWithoutAltAndTheNextKeyActsBehindIt) {
   EXPECT_TRUE(PromptRow(s).ends_with(">x"));
 }
 
+TEST_F(Sticky, ACharacterWithAltEndsItAndBeginsAnother) {
+  s.Keys("Alt-a Alt-b");
+  EXPECT_EQ(Status(s), "Search: b");
+  EXPECT_EQ(s.Under(kLeftSide), "b");
+}
+
+TEST_F(Sticky, ABlankIsACharacterOfIt) {
+  s.Write("left/a b", "");
+  s.Keys("Ctrl-R Alt-a Space");
+  EXPECT_EQ(Status(s), "Search: a");
+  EXPECT_EQ(s.Under(kLeftSide), "a b");
+  EXPECT_EQ(PromptRow(s), s.PanelPath(kLeftSide) + ">");
+}
+
 TEST_F(Sticky, TheBarIsShownAndTheTextCursorStandsBehindTheText) {
   s.Keys("Alt-a");
   EXPECT_EQ(BarRow(s, kLeftSide), 2);
