@@ -105,6 +105,14 @@ TEST(RunCommand, AFileOfAnyNameReachesItAsOneArgument) {
   EXPECT_EQ(s.Content("out"), "x|" + name + "|");
 }
 
+TEST(RunCommand, ABlankAtTheEndOfANameIsNoneAroundTheCommand) {
+  for (const std::string name : {"a ", "b\t", "c\xE3\x80\x80"}) {
+    Session s({{"left/" + name, ""}});
+    s.Keys("Down 'printf %s >../out ' Ctrl-Enter Enter");
+    EXPECT_EQ(s.Content("out"), name);
+  }
+}
+
 // ---- what can go wrong
 
 TEST(RunCommand, AProgramThatIsNotThereIsToldByTheShell) {
