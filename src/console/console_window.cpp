@@ -129,7 +129,8 @@ void CConsoleWindow::DrawCells(const CellRect& block) {
 }
 
 void CConsoleWindow::DrawCellRow(cairo_t* cairo, const CellRect& block, int y) {
-  rowInWork.assign(grid.Row(y) + block.left, grid.Row(y) + block.right + 1);
+  const Cell* const row = grid.Row(y);  // asked once: a terminal may be turning the rows meanwhile
+  rowInWork.assign(row + block.left, row + block.right + 1);
   const CellRect selected = Intersection(selection.Selected(), {block.left, y, block.right, y});
   for (int x = selected.left; x <= selected.right; ++x) {
     uint8_t& attribute = rowInWork[x - block.left].attribute;

@@ -3,10 +3,12 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+#include <atomic>
 #include <chrono>
 #include <memory>
 #include <random>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "support/console_fixture.h"
@@ -146,6 +148,21 @@ TEST_F(TerminalPicture, AFloodEndsWithTheRightPixels) {
     Write("line \033[3" + std::to_string(i % 8) + "m" + std::to_string(i) + "\033[0m\r\n");
     if (i % 97 == 0) Console->PaintTerminal();
   }
+  ExpectTruePicture();
+}
+
+// The other thread draws the cursor's cell as the blinking does, only more often.
+TEST_F(TerminalPicture, AFloodMayTurnTheRowsWhileTheCursorBlinks) {
+  std::atomic<bool> isOver{false};
+  std::thread blinking([&] {
+    for (int size = 15; !isOver; size = 115 - size) Console->SetCursorSize(size);
+  });
+  Write("\033[?1049h\033[25;1H");  // nothing is kept, so that rows turn all the time
+  const std::string flood(1000, '\n');
+  const uint64_t drawn = Console->DrawCount();
+  while (Console->DrawCount() < drawn + 300000) Write(flood);
+  isOver = true;
+  blinking.join();
   ExpectTruePicture();
 }
 
