@@ -13,7 +13,11 @@ void AttachedTerminal::SendKey(Key code) {
   terminal.SendKey(code);
 }
 
+// Bells between two paints are heard as one, and a flood of them would take a
+// call to the display each.
 void AttachedTerminal::Paint() {
+  if (owesBell) window.Ring();
+  owesBell = false;
   if (damage.IsEmpty()) return;
   owesEcho = false;
   window.Paint(damage);
@@ -54,5 +58,3 @@ void AttachedTerminal::Scrolled(const CellRect& block, int lines) {
 }
 
 void AttachedTerminal::NoteCursorCell() { damage.Changed(window.cursor.load().Cell()); }
-
-void AttachedTerminal::Beep() { window.Ring(); }

@@ -1,5 +1,5 @@
 // A terminal on the console's window: it writes the cells as output comes, and
-// paints when told to.
+// paints and rings when told to.
 #pragma once
 
 #include <atomic>
@@ -16,6 +16,7 @@ class AttachedTerminal : public TerminalScreen {
   void Write(const char* bytes, int n) { terminal.Write(bytes, n); }
   // From the GUI thread.
   void SendKey(Key code);
+  // Also rings, once, if a bell has come since the last time.
   void Paint();
   // True from a key to the next paint of anything.
   bool OwesEcho() const { return owesEcho; }
@@ -25,7 +26,7 @@ class AttachedTerminal : public TerminalScreen {
   void SetCursor(int x, int y) override;
   int CursorSize() const override;
   void SetCursorSize(int percent) override;
-  void Beep() override;
+  void Beep() override { owesBell = true; }
   void Changed(const CellRect& block) override { damage.Changed(block); }
   void Scrolled(const CellRect& block, int lines) override;
 
@@ -36,4 +37,5 @@ class AttachedTerminal : public TerminalScreen {
   TerminalDamage damage;
   CTerminal terminal;
   std::atomic<bool> owesEcho{false};
+  bool owesBell = false;
 };

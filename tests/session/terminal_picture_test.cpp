@@ -1,5 +1,7 @@
 // What a child's output leaves on the window: after any paints on the way the
-// pixels are those of a screen that is painted anew.
+// pixels are those of a screen that is painted anew. And how often it rings.
+#include <X11/XKBlib.h>
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -46,6 +48,30 @@ class TerminalPicture : public ConsoleFixture {
   void AwaitCursor(int column, int row) {
     const int x = column * CellWidth() + CellWidth() / 2, y = (row + 1) * CellHeight() - 1;
     EXPECT_TRUE(PictureWith(kWhite, x, y) != nullptr) << "no cursor";
+  }
+
+  void StartCountingBells() {
+    auto* const x = display.get();
+    ASSERT_TRUE(XkbQueryExtension(x, nullptr, &xkbEvent, nullptr, nullptr, nullptr));
+    XkbSelectEvents(x, XkbUseCoreKbd, XkbBellNotifyMask, XkbBellNotifyMask);
+    XSelectInput(x, window, PropertyChangeMask);
+    XSync(x, False);
+  }
+
+  // Those before a new title, which follows them on the same way to the display.
+  int CountBells() {
+    Console->SetTitle("rung");
+    int bells = 0;
+    const auto deadline = std::chrono::steady_clock::now() + kPatience;
+    while (std::chrono::steady_clock::now() < deadline) {
+      if (XPending(display.get()) == 0) continue;
+      XEvent event;
+      XNextEvent(display.get(), &event);
+      const auto& xkb = reinterpret_cast<const XkbAnyEvent&>(event);
+      if (event.type == xkbEvent && xkb.xkb_type == XkbBellNotify) ++bells;
+      if (event.type == PropertyNotify && event.xproperty.atom == XA_WM_NAME) return bells;
+    }
+    return -1;
   }
 
   // Detaches the terminal, which paints the screen anew. The last cell tells
@@ -119,6 +145,7 @@ class TerminalPicture : public ConsoleFixture {
   Connection display;
   Window window = 0;
   int width = 0, height = 0;
+  int xkbEvent = -1;
 };
 
 }  // namespace
@@ -201,4 +228,22 @@ TEST_F(TerminalPicture, IsTrueAfterAnyOutputAndPaints) {
   }
   Write("\033[1;25r");
   ExpectTruePicture();
+}
+
+// ---- the bell ------------------------------------------------------------------
+
+TEST_F(TerminalPicture, BellsBetweenTwoPaintsRingOnce) {
+  StartCountingBells();
+  Write("a\a\ab\a");
+  EXPECT_EQ(CountBells(), 0);
+  Console->PaintTerminal();
+  EXPECT_EQ(CountBells(), 1);
+  Console->PaintTerminal();
+  EXPECT_EQ(CountBells(), 0);
+}
+
+TEST_F(TerminalPicture, ABellRingsWhereNothingElseChanges) {
+  StartCountingBells();
+  Console->WriteText("\a");
+  EXPECT_EQ(CountBells(), 1);
 }
