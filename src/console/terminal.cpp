@@ -16,7 +16,9 @@ namespace {
 
 constexpr char kBell = 7, kBackspaceByte = 8, kTabByte = 9, kLineFeed = 10, kReturn = 13, kEscapeByte = 27;
 constexpr char kTitleEnd = '\x9C';
-constexpr int kMostTitleBytes = 4096;  // a title without an end must not swallow all that follows
+// A title without an end must not swallow all that follows; but what is sent
+// as one, a clipboard for example, may be long.
+constexpr int kMostTitleBytes = 1 << 20;
 
 bool IsControl(char byte) { return static_cast<unsigned char>(byte) < 32; }
 bool IsPlain(char byte) { return static_cast<signed char>(byte) >= 32; }  // a character of one byte
