@@ -6,6 +6,7 @@
 #include <cctype>
 #include <cerrno>
 #include <cstring>
+#include <cwchar>
 
 #include "dialogs/prompt.h"
 #include "foundation/paths.h"
@@ -13,6 +14,7 @@
 #include "panels/navigation.h"
 #include "shell/run_command.h"
 #include "shell/shell_quote.h"
+#include "shell/spawn.h"
 #include "shell/temp_names.h"
 
 namespace {
@@ -58,7 +60,8 @@ bool ReadChoice(StdFile& file, Westring& path) {
 
 int RunCd(const Westring& command, int side, Westring& target) {
   TPanel& panel = Panels[side];
-  Westring typed = Unquote(LTrim(Mid(command, kCdLength)));
+  const wchar_t* const behind = command.Text() + kCdLength;
+  Westring typed = Unquote(behind + wcsspn(behind, L" "));  // a wider blank begins a name
   ReplaceAll(typed, L"\\", L"/");
   if (typed.IsEmpty()) typed = L".";
   if (!NormalisePath(typed, panel.path, target)) return Refuse(L"Invalid path", typed);
@@ -68,7 +71,7 @@ int RunCd(const Westring& command, int side, Westring& target) {
 void RunVcd(const Westring& command, int side, const Westring& prompt) {
   const Westring scratch = ScratchFile();
   if (const int error = RemoveScratchFile(scratch)) return ShowPathError(error, scratch);
-  const Westring arguments = Trim(Mid(command, kVcdLength));
+  const Westring arguments = TrimCommand(Mid(command, kVcdLength));
   RunCommand(L"vcdpgm.exe " + arguments + L" > " + ShellQuote(scratch), side, prompt, kRunPlain);
 
   StdFile file;

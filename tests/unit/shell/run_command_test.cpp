@@ -90,6 +90,12 @@ TEST_F(OwnCommands, CdTellsItsTargetAndLeavesTheReadToItsCaller) {
   EXPECT_FALSE(panels[0].readPending);
 }
 
+TEST_F(OwnCommands, CdSkipsTheBlanksInFrontAndNotThoseOfTheName) {
+  files.MakeDirectory("\xE3\x80\x80wide\xE3\x80\x80");
+  EXPECT_EQ(Call(L"cd   \x3000wide\x3000"), 0);
+  EXPECT_EQ(Path(0), files.Path("\xE3\x80\x80wide\xE3\x80\x80"));
+}
+
 TEST_F(OwnCommands, SetSplitsAtTheFirstEqualsSign) {
   EXPECT_EQ(Call(L"set NAME=a=b "), 0);
   EXPECT_STREQ(Variables.Get("NAME"), "a=b");
