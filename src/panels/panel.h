@@ -103,5 +103,8 @@ void SwapPanelRecords(TPanel& a, TPanel& b);
 struct PanelHooks {
   void (*drawInfo)(TPanel& panel) = nullptr;  // the inside of an info panel
   void (*readTree)(TPanel& panel) = nullptr;  // the rows of a tree panel
+  // The directory in the panel's tree that is nearest to what was typed. False,
+  // with path untouched, if there is none.
+  bool (*findInTree)(const TPanel& panel, const Westring& typed, Westring& path) = nullptr;
 };
 extern PanelHooks ThePanelHooks;

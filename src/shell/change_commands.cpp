@@ -56,6 +56,11 @@ bool ReadChoice(StdFile& file, Westring& path) {
   return true;
 }
 
+// Of a directory that is not where it was looked for, a panel's tree may know.
+bool FindInTree(const TPanel& panel, const Westring& typed, Westring& path) {
+  return panel.tree && ThePanelHooks.findInTree && ThePanelHooks.findInTree(panel, typed, path);
+}
+
 }  // namespace
 
 int RunCd(const Westring& command, int side, Westring& target) {
@@ -65,7 +70,9 @@ int RunCd(const Westring& command, int side, Westring& target) {
   ReplaceAll(typed, L"\\", L"/");
   if (typed.IsEmpty()) typed = L".";
   if (!NormalisePath(typed, panel.path, target)) return Refuse(L"Invalid path", typed);
-  return ChangeDirectory(panel, target) ? 0 : Refuse(L"Invalid directory", target);
+  if (ChangeDirectory(panel, target)) return 0;
+  if (FindInTree(panel, typed, target) && ChangeDirectory(panel, target)) return 0;
+  return Refuse(L"Invalid directory", target);
 }
 
 void RunVcd(const Westring& command, int side, const Westring& prompt) {
