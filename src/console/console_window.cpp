@@ -115,9 +115,16 @@ void CConsoleWindow::Layout(int columns, int rows, int points) {
 
 // ---- drawing -----------------------------------------------------------------
 
+// The cells outside of the block are drawn for what reaches into it from them.
 void CConsoleWindow::DrawCells(const CellRect& block) {
   cairo_t* cairo = area.Picture();
-  for (int y = block.top; y <= block.bottom; ++y) DrawCellRow(cairo, block, y);
+  cairo_save(cairo);
+  cairo_rectangle(cairo, block.left * painter.CellWidth(), block.top * painter.CellHeight(),
+                  (block.right - block.left + 1) * painter.CellWidth(),
+                  (block.bottom - block.top + 1) * painter.CellHeight());
+  cairo_clip(cairo);
+  for (int y = block.top; y <= block.bottom; ++y) DrawCellRow(cairo, WithNeighbours(block), y);
+  cairo_restore(cairo);
   const Place at = cursor;
   if (block.Contains(at.x, at.y) && cursorSize > 0 && blink.IsCursorPhase()) {
     painter.DrawCursor(cairo, at.x * painter.CellWidth(), at.y * painter.CellHeight(), cursorSize,
@@ -145,8 +152,15 @@ bool CConsoleWindow::IsCursorIn(const CellRect& block) const {
   return block.Contains(at.x, at.y);
 }
 
+// Glyphs may be a little wider than their cells, so the cells beside those that
+// changed are drawn as well.
+CellRect CConsoleWindow::WithNeighbours(const CellRect& block) const {
+  if (block.IsEmpty()) return {};
+  return Intersection({block.left - 1, block.top, block.right + 1, block.bottom}, grid.Bounds());
+}
+
 void CConsoleWindow::Repaint(const CellRect& block) {
-  const CellRect visible = Intersection(block, grid.Bounds());
+  const CellRect visible = WithNeighbours(block);
   if (visible.IsEmpty()) return;
   DrawCells(visible);
   drawnAhead = Union(drawnAhead, visible);

@@ -108,6 +108,7 @@ class CConsoleWindow : public Gtk::Window {
   bool FitsDisplay(ScreenSize size) const;
   void DrawCells(const CellRect& block);
   void DrawCellRow(cairo_t* cairo, const CellRect& block, int y);
+  CellRect WithNeighbours(const CellRect& block) const;
   void Repaint(const CellRect& block);
   void MovePicture(const CellRect& block, int lines);
   void RepaintMoved(const CellRect& drawn, const CellRect& block, int lines);

@@ -216,6 +216,9 @@ TEST_F(TerminalPicture, IsTrueAfterAnyOutputAndPaints) {
       "\033[?25l",
       "\033[?25h",
       "a longer line of text\n",
+      "\u2500\u2502\u253C",
+      "\u2550\u2551\u256C\u2588\u2592",
+      "\u4E2D\u6587\u05D0\U0001F600e\u0301",
       "\033[4P",
       "\033[3@",
       "\033[A",
@@ -227,6 +230,20 @@ TEST_F(TerminalPicture, IsTrueAfterAnyOutputAndPaints) {
     if (random() % 3 == 0) Console->PaintTerminal();
   }
   Write("\033[1;25r");
+  ExpectTruePicture();
+}
+
+// As those of "W" or "%", which a cell drawn by itself cuts off beside it.
+TEST_F(TerminalPicture, GlyphsMayReachIntoTheCellsBesideThem) {
+  std::mt19937 random(13);
+  for (int step = 0; step < 4000; ++step) {
+    const char character = static_cast<char>('!' + random() % 94);
+    if (random() % 3 == 0)
+      Write("\033[" + std::to_string(1 + random() % kRows) + ";" + std::to_string(1 + random() % kColumns) +
+            "H");
+    Write(std::string(1 + random() % 3, character));
+    if (random() % 3 == 0) Console->PaintTerminal();
+  }
   ExpectTruePicture();
 }
 
