@@ -137,7 +137,7 @@ TEST(ScrollBackBuffer, WhatIsThereStaysWhenMemoryGetsShort) {
   EXPECT_EQ(buffer.Count(), 6 * 1024);
 }
 
-// Two gigabytes of rows where half of one may be had. Not in this process: its
+// 800 megabytes of rows where less than 512 may be had. Not in this process: its
 // limit would hold for all tests that follow.
 TEST(ScrollBackBuffer, AFloodDoesNotEndAProcessOfLittleMemory) {
   if (BytesInUse() == 0) GTEST_SKIP() << "the allocator takes all addresses there are";
@@ -146,7 +146,7 @@ TEST(ScrollBackBuffer, AFloodDoesNotEndAProcessOfLittleMemory) {
     setrlimit(RLIMIT_AS, &limit);
     CScrollBackBuffer buffer;
     const std::vector<Cell> row = RowOf(200, 'a');
-    for (int i = 0; i < 2000000; ++i) Append(buffer, row);
+    for (int i = 0; i < 800000; ++i) Append(buffer, row);
     const bool isKept = buffer.Count() > 100000;
     std::exit(isKept ? 0 : 1);
   };
