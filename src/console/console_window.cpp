@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "config/values/colours.h"
+#include "console/input.h"
 #include "console/screen_size.h"
 #include "console/toolkit_lock.h"
 
@@ -29,6 +30,13 @@ constexpr int kLargestWantedFont = 96;
 gboolean QuitLoop(gpointer) {
   gtk_main_quit();
   return FALSE;
+}
+
+uint32_t HeldModifiers() {
+  ToolkitCall call;
+  GdkModifierType state{};
+  gdk_display_get_pointer(gdk_display_get_default(), nullptr, nullptr, nullptr, &state);
+  return static_cast<uint32_t>(state) & kModMask;
 }
 
 }  // namespace
@@ -258,7 +266,9 @@ void CConsoleWindow::AttachTerminal(int masterFd) {
   terminal = std::move(fresh);
 }
 
-// The old screen, where the child left another one, comes back with its end.
+// The old screen, where the child left another one, comes back with its end. What
+// was pressed or let go meanwhile was the child's, or another window's: no key
+// will tell of it.
 void CConsoleWindow::DetachTerminal() {
   std::unique_ptr<AttachedTerminal> old;
   {
@@ -267,6 +277,7 @@ void CConsoleWindow::DetachTerminal() {
   }
   old.reset();
   Invalidate(grid.Bounds());
+  CurrentModifiers = HeldModifiers();
 }
 
 void CConsoleWindow::PlaceCursor(int x, int y) {
