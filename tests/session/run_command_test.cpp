@@ -234,10 +234,8 @@ TEST(RunCommand, AFloodEndsWithItsLastRow) {
 TEST(RunExpanded, RepeatsForEachTaggedFileWithOnePrompt) {
   Session s({{"left/a", ""}, {"left/b", ""}, {"left/c", ""}, {"left/d", ""}});
   s.Keys("Down Ins Down Ins Ins");
-  RunLine(s, "echo <!t>");
-  const Strings text = ConsoleText(s);
-  EXPECT_EQ(text[0], Prompt(s) + "echo <!t>");
-  EXPECT_EQ(std::count(text.begin(), text.end(), text[0]), 1);
+  RunLine(s, "echo +!t+");
+  EXPECT_EQ(ConsoleText(s), (Strings{Prompt(s) + "echo +!t+", "+a+", "", "+c+", "", "+d+", ""}));
 }
 
 TEST(RunExpanded, TakesTheTaggedFilesInTheOrderOfTheList) {
