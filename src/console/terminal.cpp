@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <tuple>
 
 #include "config/values/colours.h"
 #include "config/values/options.h"
@@ -79,9 +78,21 @@ CTerminal::CTerminal(TerminalScreen& screen, int masterFd)
 CTerminal::~CTerminal() { LeaveAlternateScreen(); }
 
 void CTerminal::SendKey(Key code) {
+  if (!SendRest()) return;
   const Estring bytes = KeySequence(code, applicationCursor);
   const int length = code < 256 ? 1 : Length(bytes);  // the zero byte is a key too
-  if (length > 0) std::ignore = write(masterFd, bytes.Text(), static_cast<size_t>(length));
+  const ssize_t sent = length > 0 ? write(masterFd, bytes.Text(), static_cast<size_t>(length)) : 0;
+  if (sent > 0) unsentRest.Assign(bytes.Text() + sent, length - static_cast<int>(sent));
+}
+
+// A sequence that was cut, where there was no room for more, goes on before
+// anything else: the child would read its end as text. False while it has none.
+bool CTerminal::SendRest() {
+  const int length = Length(unsentRest);
+  if (length == 0) return true;
+  const ssize_t sent = write(masterFd, unsentRest.Text(), static_cast<size_t>(length));
+  if (sent > 0) unsentRest = Estring(unsentRest.Text() + sent);
+  return unsentRest.IsEmpty();
 }
 
 // ---- the stream ----------------------------------------------------------------
