@@ -7,8 +7,16 @@
 AttachedTerminal::AttachedTerminal(CConsoleWindow& window, int masterFd)
     : window(window), damage(window.grid.Columns(), window.grid.Rows()), terminal(*this, masterFd) {}
 
+void AttachedTerminal::TakeSize() { damage.SetSize(window.grid.Columns(), window.grid.Rows()); }
+
+void AttachedTerminal::Write(const char* bytes, int n) {
+  TakeSize();
+  terminal.Write(bytes, n);
+}
+
 // Noted first: the echo may be there before write returns.
 void AttachedTerminal::SendKey(Key code) {
+  if (!SendsBytes(code)) return;
   owesEcho = true;
   terminal.SendKey(code);
 }
@@ -16,6 +24,7 @@ void AttachedTerminal::SendKey(Key code) {
 // Bells between two paints are heard as one, and a flood of them would take a
 // call to the display each.
 void AttachedTerminal::Paint() {
+  TakeSize();
   if (owesBell) window.Ring();
   owesBell = false;
   if (damage.IsEmpty()) return;

@@ -13,12 +13,12 @@ class AttachedTerminal : public TerminalScreen {
  public:
   AttachedTerminal(CConsoleWindow& window, int masterFd);
 
-  void Write(const char* bytes, int n) { terminal.Write(bytes, n); }
+  void Write(const char* bytes, int n);
   // From the GUI thread.
   void SendKey(Key code);
   // Also rings, once, if a bell has come since the last time.
   void Paint();
-  // True from a key to the next paint of anything.
+  // True from a key that sends something to the next paint of anything.
   bool OwesEcho() const { return owesEcho; }
 
   CellGrid& Grid() override;
@@ -31,6 +31,7 @@ class AttachedTerminal : public TerminalScreen {
   void Scrolled(const CellRect& block, int lines) override;
 
  private:
+  void TakeSize();
   void NoteCursorCell();
 
   CConsoleWindow& window;
