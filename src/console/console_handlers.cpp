@@ -55,9 +55,11 @@ void CConsoleWindow::QueueKey(Key code, uint32_t modifiers, uint32_t hardware) {
                         static_cast<int32_t>(hardware), 0, 0});
 }
 
+// Not for a child, which would take it for a key of its own: we are asked when it
+// has ended. The program ends itself, if it wants to.
 bool CConsoleWindow::on_delete_event(GdkEventAny*) {
-  QueueKey(kCloseKey, 0, 0);
-  return true;  // the program ends itself, if it wants to
+  events.Put(new TEvent{kEventKey, static_cast<int32_t>(kCloseKey), 0, 0, 0, 0});
+  return true;
 }
 
 // ---- text --------------------------------------------------------------------
