@@ -81,10 +81,12 @@ void CConsoleWindow::OfferToInputMethod(GdkEventKey* event) {
 }
 
 void CConsoleWindow::OnCommit(GtkIMContext*, const gchar* utf8, gpointer window) {
+  CConsoleWindow& console = *static_cast<CConsoleWindow*>(window);
   Westring text;
   text.FromUtf8(utf8);
   for (const wchar_t* p = text.Text(); *p != 0; ++p) {
-    static_cast<CConsoleWindow*>(window)->QueueKey(static_cast<Key>(*p), 0, 0);
+    // A child takes bytes; the numbers of some characters above those are keys.
+    if (console.terminal == nullptr || *p <= 0xFF) console.QueueKey(static_cast<Key>(*p), 0, 0);
   }
 }
 
