@@ -75,7 +75,13 @@ CTerminal::CTerminal(TerminalScreen& screen, int masterFd)
   if (flags != -1) fcntl(masterFd, F_SETFL, flags | O_NONBLOCK);
 }
 
-CTerminal::~CTerminal() { LeaveAlternateScreen(); }
+// A child that is killed has the cursor anywhere, and what comes next would be
+// written over the rows that are shown again.
+CTerminal::~CTerminal() {
+  if (mainScreen != nullptr)
+    screen.SetCursor(std::min(mainX, grid.Columns() - 1), std::min(mainY, grid.Rows() - 1));
+  LeaveAlternateScreen();
+}
 
 void CTerminal::SendKey(Key code) {
   if (!SendRest()) return;

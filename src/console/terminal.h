@@ -48,7 +48,7 @@ class CTerminal {
   // The screen outlives the terminal. The descriptor stays the caller's, but is
   // made non-blocking, for reading too: whoever reads from it polls first.
   CTerminal(TerminalScreen& screen, int masterFd);
-  ~CTerminal();  // leaves the alternate screen
+  ~CTerminal();  // leaves the alternate screen, for where it was entered
   CTerminal(const CTerminal&) = delete;
   CTerminal& operator=(const CTerminal&) = delete;
 
@@ -119,6 +119,7 @@ class CTerminal {
   wchar_t lastCharacter = 0;
   std::unique_ptr<Cell[]> mainScreen;  // while the alternate screen is shown
   int mainColumns = 0, mainRows = 0;   // its size
+  int mainX = 0, mainY = 0;            // where it had the cursor
 
   State state = State::Text;
   Estring pending;  // a character of several bytes, so far; empty in the graphics set

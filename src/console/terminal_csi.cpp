@@ -305,6 +305,8 @@ void CTerminal::EnterAlternateScreen() {
   mainScreen = grid.SaveBlock(0, 0, columns, rows);
   mainColumns = columns;
   mainRows = rows;
+  mainX = x;
+  mainY = y;
   Blank(0, 0, columns - 1, rows - 1);
   x = y = 0;
 }
