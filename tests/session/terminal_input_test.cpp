@@ -5,27 +5,19 @@
 #include <poll.h>
 #include <unistd.h>
 
-#include <chrono>
-#include <memory>
 #include <string>
 
-#include "support/console_fixture.h"
+#include "support/display_fixture.h"
 
 namespace {
 
 constexpr int kPatienceMs = 10000;
 constexpr unsigned kLeftButton = 1, kMiddleButton = 2, kWheelUp = 4, kWheelDown = 5;
 
-struct DisplayClose {
-  void operator()(Display* display) const { XCloseDisplay(display); }
-};
-using Connection = std::unique_ptr<Display, DisplayClose>;
-
 // The test has the child's side of the line.
-class TerminalInput : public ConsoleFixture {
+class TerminalInput : public DisplayFixture {
  protected:
-  TerminalInput() : display(XOpenDisplay(nullptr)) {
-    FindWindow();
+  TerminalInput() {
     // The toolkit takes buttons only where it knows the pointer.
     XWarpPointer(display.get(), None, window, 0, 0, 0, 0, 1, 1);
     EXPECT_EQ(pipe(line), 0);
@@ -109,25 +101,6 @@ class TerminalInput : public ConsoleFixture {
     XSync(display.get(), False);
   }
 
-  void FindWindow() {
-    Window root, parent, *children = nullptr;
-    unsigned count = 0;
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(kPatienceMs);
-    while (window == 0 && std::chrono::steady_clock::now() < deadline) {
-      XQueryTree(display.get(), DefaultRootWindow(display.get()), &root, &parent, &children, &count);
-      for (unsigned i = 0; i < count; ++i) {
-        XWindowAttributes is;
-        if (XGetWindowAttributes(display.get(), children[i], &is) && is.map_state == IsViewable &&
-            is.width > kColumns)
-          window = children[i], width = is.width, height = is.height;
-      }
-      if (children) XFree(children);
-    }
-  }
-
-  Connection display;
-  Window window = 0;
-  int width = 0, height = 0;
   int line[2] = {-1, -1};
 };
 

@@ -13,28 +13,20 @@
 #include <thread>
 #include <vector>
 
-#include "support/console_fixture.h"
+#include "support/display_fixture.h"
 
 namespace {
 
 constexpr unsigned long kMagenta = 0x7F007F, kGreen = 0x007F00, kWhite = 0xFFFFFF;
-constexpr auto kPatience = std::chrono::seconds(10);
 
-struct DisplayClose {
-  void operator()(Display* display) const { XCloseDisplay(display); }
-};
 struct ImageRelease {
   void operator()(XImage* image) const { XDestroyImage(image); }
 };
 using Image = std::unique_ptr<XImage, ImageRelease>;
-using Connection = std::unique_ptr<Display, DisplayClose>;
 
-class TerminalPicture : public ConsoleFixture {
+class TerminalPicture : public DisplayFixture {
  protected:
-  TerminalPicture() : display(XOpenDisplay(nullptr)) {
-    FindWindow();
-    Console->AttachTerminal(-1);
-  }
+  TerminalPicture() { Console->AttachTerminal(-1); }
 
   void Write(const std::string& bytes) {
     Console->WriteTerminal(bytes.data(), static_cast<int>(bytes.size()));
@@ -89,22 +81,6 @@ class TerminalPicture : public ConsoleFixture {
   }
 
  private:
-  void FindWindow() {
-    Window root, parent, *children = nullptr;
-    unsigned count = 0;
-    auto* const x = display.get();
-    const auto deadline = std::chrono::steady_clock::now() + kPatience;
-    while (window == 0 && std::chrono::steady_clock::now() < deadline) {
-      XQueryTree(x, DefaultRootWindow(x), &root, &parent, &children, &count);
-      for (unsigned i = 0; i < count; ++i) {
-        XWindowAttributes is;
-        if (XGetWindowAttributes(x, children[i], &is) && is.map_state == IsViewable && is.width > kColumns)
-          window = children[i], width = is.width, height = is.height;
-      }
-      if (children) XFree(children);
-    }
-  }
-
   // Of the last cell's middle.
   Image PictureWith(unsigned long colour) {
     return PictureWith(colour, width - CellWidth() / 2, height - CellHeight() / 2);
@@ -142,9 +118,6 @@ class TerminalPicture : public ConsoleFixture {
   int CellWidth() const { return width / kColumns; }
   int CellHeight() const { return height / kRows; }
 
-  Connection display;
-  Window window = 0;
-  int width = 0, height = 0;
   int xkbEvent = -1;
 };
 
