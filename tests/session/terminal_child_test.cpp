@@ -313,6 +313,9 @@ TEST_F(TerminalChild, OneThatDrawsOnTheOtherScreenAndIsKilledLeavesTheFirst) {
 
 TEST_F(TerminalChild, WithoutATerminalItFailsInSilence) {
   const auto before = Snapshot();
+  // As the call will, for a sanitizer needs a pipe to look at an object's class
+  // for the first time.
+  Console->SetCursor(0, kRows - 1);
   {
     const NoDescriptors none;
     EXPECT_EQ(RunOnTerminal(L"echo text"), -1);

@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "support/cells.h"
 #include "support/display_fixture.h"
 
 namespace {
@@ -191,8 +192,8 @@ TEST_F(TerminalInput, AScreenThatGrowsUnderAChildTakesAllOfItsOutput) {
   for (int i = 0; i < 100; ++i) output += "line " + std::to_string(i) + "\r\n";
   Console->WriteText(output.c_str());
   const auto cells = Console->SaveBlock(5, 58, 2, 1);
-  EXPECT_EQ(cells[0].character, '9');
-  EXPECT_EQ(cells[1].character, '9');
+  EXPECT_EQ(CharacterOf(cells[0]), '9');
+  EXPECT_EQ(CharacterOf(cells[1]), '9');
   Console->Resize(20, 5, "", 0);
   Console->PaintTerminal();
   Console->WriteText("\033[5;1Hsmall\n");
