@@ -7,13 +7,26 @@
 AttachedTerminal::AttachedTerminal(CConsoleWindow& window, int masterFd)
     : window(window), damage(window.grid.Columns(), window.grid.Rows()), terminal(*this, masterFd) {}
 
+void AttachedTerminal::TakeSize() { damage.SetSize(window.grid.Columns(), window.grid.Rows()); }
+
+void AttachedTerminal::Write(const char* bytes, int n) {
+  TakeSize();
+  terminal.Write(bytes, n);
+}
+
 // Noted first: the echo may be there before write returns.
 void AttachedTerminal::SendKey(Key code) {
+  if (!SendsBytes(code)) return;
   owesEcho = true;
   terminal.SendKey(code);
 }
 
+// Bells between two paints are heard as one, and a flood of them would take a
+// call to the display each.
 void AttachedTerminal::Paint() {
+  TakeSize();
+  if (owesBell) window.Ring();
+  owesBell = false;
   if (damage.IsEmpty()) return;
   owesEcho = false;
   window.Paint(damage);
@@ -54,5 +67,3 @@ void AttachedTerminal::Scrolled(const CellRect& block, int lines) {
 }
 
 void AttachedTerminal::NoteCursorCell() { damage.Changed(window.cursor.load().Cell()); }
-
-void AttachedTerminal::Beep() { window.Ring(); }

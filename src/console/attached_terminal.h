@@ -1,5 +1,5 @@
 // A terminal on the console's window: it writes the cells as output comes, and
-// paints when told to.
+// paints and rings when told to.
 #pragma once
 
 #include <atomic>
@@ -13,11 +13,12 @@ class AttachedTerminal : public TerminalScreen {
  public:
   AttachedTerminal(CConsoleWindow& window, int masterFd);
 
-  void Write(const char* bytes, int n) { terminal.Write(bytes, n); }
+  void Write(const char* bytes, int n);
   // From the GUI thread.
   void SendKey(Key code);
+  // Also rings, once, if a bell has come since the last time.
   void Paint();
-  // True from a key to the next paint of anything.
+  // True from a key that sends something to the next paint of anything.
   bool OwesEcho() const { return owesEcho; }
 
   CellGrid& Grid() override;
@@ -25,15 +26,17 @@ class AttachedTerminal : public TerminalScreen {
   void SetCursor(int x, int y) override;
   int CursorSize() const override;
   void SetCursorSize(int percent) override;
-  void Beep() override;
+  void Beep() override { owesBell = true; }
   void Changed(const CellRect& block) override { damage.Changed(block); }
   void Scrolled(const CellRect& block, int lines) override;
 
  private:
+  void TakeSize();
   void NoteCursorCell();
 
   CConsoleWindow& window;
   TerminalDamage damage;
   CTerminal terminal;
   std::atomic<bool> owesEcho{false};
+  bool owesBell = false;
 };

@@ -143,9 +143,19 @@ void CConsole::WriteText(const char* bytes) {
   SetCursorSize(size);
 }
 
-void CConsole::WriteTerminal(const char* bytes, int n) { window->Terminal()->Write(bytes, n); }
-void CConsole::PaintTerminal() { window->Terminal()->Paint(); }
-bool CConsole::TerminalOwesEcho() const { return window->Terminal()->OwesEcho(); }
+void CConsole::WriteTerminal(const char* bytes, int n) {
+  if (AttachedTerminal* const terminal = window->Terminal()) terminal->Write(bytes, n);
+}
+
+void CConsole::PaintTerminal() {
+  if (AttachedTerminal* const terminal = window->Terminal()) terminal->Paint();
+}
+
+bool CConsole::TerminalOwesEcho() const {
+  const AttachedTerminal* const terminal = window->Terminal();
+  return terminal != nullptr && terminal->OwesEcho();
+}
+
 void CConsole::AttachTerminal(int masterFd) { window->AttachTerminal(masterFd); }
 void CConsole::DetachTerminal() { window->DetachTerminal(); }
 

@@ -59,9 +59,10 @@ class CConsole {
   void WriteText(const char* bytes);
   // A stretch of a child's output. The cells are right when this returns; the
   // pixels follow with PaintTerminal, so that a flood is not painted line by line.
+  // Without a terminal nothing happens.
   void WriteTerminal(const char* bytes, int n);
   void PaintTerminal();
-  // True from a key that went to the child to the next paint of its output.
+  // True from a key that sent the child something to the next paint of its output.
   bool TerminalOwesEcho() const;
 
   // From here on keys and text go to the master side of a pseudo-terminal, and
@@ -72,7 +73,7 @@ class CConsole {
   void SetDefaultAttribute(uint8_t attribute);  // of WriteText
 
   void SetTitle(const Westring& text);
-  void SetTitle(const char* bytes);  // in the code page
+  void SetTitle(const char* bytes);        // in the code page
   void SetIconList(WestringStore& paths);  // files that can't be read are passed over
   void SetIconFromFile(const Westring& path);
   void Beep();

@@ -55,9 +55,11 @@ void CConsoleWindow::QueueKey(Key code, uint32_t modifiers, uint32_t hardware) {
                         static_cast<int32_t>(hardware), 0, 0});
 }
 
+// Not for a child, which would take it for a key of its own: we are asked when it
+// has ended. The program ends itself, if it wants to.
 bool CConsoleWindow::on_delete_event(GdkEventAny*) {
-  QueueKey(kCloseKey, 0, 0);
-  return true;  // the program ends itself, if it wants to
+  events.Put(new TEvent{kEventKey, static_cast<int32_t>(kCloseKey), 0, 0, 0, 0});
+  return true;
 }
 
 // ---- text --------------------------------------------------------------------
@@ -79,10 +81,12 @@ void CConsoleWindow::OfferToInputMethod(GdkEventKey* event) {
 }
 
 void CConsoleWindow::OnCommit(GtkIMContext*, const gchar* utf8, gpointer window) {
+  CConsoleWindow& console = *static_cast<CConsoleWindow*>(window);
   Westring text;
   text.FromUtf8(utf8);
   for (const wchar_t* p = text.Text(); *p != 0; ++p) {
-    static_cast<CConsoleWindow*>(window)->QueueKey(static_cast<Key>(*p), 0, 0);
+    // A child takes bytes; the numbers of some characters above those are keys.
+    if (console.terminal == nullptr || *p <= 0xFF) console.QueueKey(static_cast<Key>(*p), 0, 0);
   }
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "config/values/colours.h"
+#include "console/input.h"
 #include "console/screen_size.h"
 #include "console/toolkit_lock.h"
 
@@ -29,6 +30,13 @@ constexpr int kLargestWantedFont = 96;
 gboolean QuitLoop(gpointer) {
   gtk_main_quit();
   return FALSE;
+}
+
+uint32_t HeldModifiers() {
+  ToolkitCall call;
+  GdkModifierType state{};
+  gdk_display_get_pointer(gdk_display_get_default(), nullptr, nullptr, nullptr, &state);
+  return static_cast<uint32_t>(state) & kModMask;
 }
 
 }  // namespace
@@ -115,9 +123,16 @@ void CConsoleWindow::Layout(int columns, int rows, int points) {
 
 // ---- drawing -----------------------------------------------------------------
 
+// The cells outside of the block are drawn for what reaches into it from them.
 void CConsoleWindow::DrawCells(const CellRect& block) {
   cairo_t* cairo = area.Picture();
-  for (int y = block.top; y <= block.bottom; ++y) DrawCellRow(cairo, block, y);
+  cairo_save(cairo);
+  cairo_rectangle(cairo, block.left * painter.CellWidth(), block.top * painter.CellHeight(),
+                  (block.right - block.left + 1) * painter.CellWidth(),
+                  (block.bottom - block.top + 1) * painter.CellHeight());
+  cairo_clip(cairo);
+  for (int y = block.top; y <= block.bottom; ++y) DrawCellRow(cairo, WithNeighbours(block), y);
+  cairo_restore(cairo);
   const Place at = cursor;
   if (block.Contains(at.x, at.y) && cursorSize > 0 && blink.IsCursorPhase()) {
     painter.DrawCursor(cairo, at.x * painter.CellWidth(), at.y * painter.CellHeight(), cursorSize,
@@ -129,7 +144,8 @@ void CConsoleWindow::DrawCells(const CellRect& block) {
 }
 
 void CConsoleWindow::DrawCellRow(cairo_t* cairo, const CellRect& block, int y) {
-  rowInWork.assign(grid.Row(y) + block.left, grid.Row(y) + block.right + 1);
+  const Cell* const row = grid.Row(y);  // asked once: a terminal may be turning the rows meanwhile
+  rowInWork.assign(row + block.left, row + block.right + 1);
   const CellRect selected = Intersection(selection.Selected(), {block.left, y, block.right, y});
   for (int x = selected.left; x <= selected.right; ++x) {
     uint8_t& attribute = rowInWork[x - block.left].attribute;
@@ -144,8 +160,15 @@ bool CConsoleWindow::IsCursorIn(const CellRect& block) const {
   return block.Contains(at.x, at.y);
 }
 
+// Glyphs may be a little wider than their cells, so the cells beside those that
+// changed are drawn as well.
+CellRect CConsoleWindow::WithNeighbours(const CellRect& block) const {
+  if (block.IsEmpty()) return {};
+  return Intersection({block.left - 1, block.top, block.right + 1, block.bottom}, grid.Bounds());
+}
+
 void CConsoleWindow::Repaint(const CellRect& block) {
-  const CellRect visible = Intersection(block, grid.Bounds());
+  const CellRect visible = WithNeighbours(block);
   if (visible.IsEmpty()) return;
   DrawCells(visible);
   drawnAhead = Union(drawnAhead, visible);
@@ -243,7 +266,9 @@ void CConsoleWindow::AttachTerminal(int masterFd) {
   terminal = std::move(fresh);
 }
 
-// The old screen, where the child left another one, comes back with its end.
+// The old screen, where the child left another one, comes back with its end. What
+// was pressed or let go meanwhile was the child's, or another window's: no key
+// will tell of it.
 void CConsoleWindow::DetachTerminal() {
   std::unique_ptr<AttachedTerminal> old;
   {
@@ -252,6 +277,7 @@ void CConsoleWindow::DetachTerminal() {
   }
   old.reset();
   Invalidate(grid.Bounds());
+  CurrentModifiers = HeldModifiers();
 }
 
 void CConsoleWindow::PlaceCursor(int x, int y) {

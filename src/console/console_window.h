@@ -90,13 +90,13 @@ class CConsoleWindow : public Gtk::Window {
   Estring fontFamily;
   int fontSize;
   int codePage;
-  // In one, for a terminal moves it without the lock.
+  // Place and size of the cursor are changed by a terminal without the lock.
   struct Place {
     int x = 0, y = 0;
     CellRect Cell() const { return {x, y, x, y}; }
   };
   std::atomic<Place> cursor{};
-  int cursorSize = 0;
+  std::atomic<int> cursorSize{0};
   uint8_t defaultAttribute;
   std::atomic<uint64_t> drawCount{0};
 
@@ -108,6 +108,7 @@ class CConsoleWindow : public Gtk::Window {
   bool FitsDisplay(ScreenSize size) const;
   void DrawCells(const CellRect& block);
   void DrawCellRow(cairo_t* cairo, const CellRect& block, int y);
+  CellRect WithNeighbours(const CellRect& block) const;
   void Repaint(const CellRect& block);
   void MovePicture(const CellRect& block, int lines);
   void RepaintMoved(const CellRect& drawn, const CellRect& block, int lines);

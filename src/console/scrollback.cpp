@@ -7,17 +7,23 @@ CScrollBackBuffer ScrollBack;
 
 void CScrollBackBuffer::Append(const Cell* cells, int n) {
   n = std::max(n, 0);
-  if (count % kBlockRows == 0) {
-    // Rows are as wide as the screen, nearly always: this is the whole block.
-    blocks.emplace_back();
-    blocks.back().cells.reserve(static_cast<size_t>(n) * kBlockRows);
-    blocks.back().rowEnds.reserve(kBlockRows);
-  }
+  if (count % kBlockRows == 0) BeginBlock(n);
   Block& block = blocks.back();
   block.cells.insert(block.cells.end(), cells, cells + n);
   block.rowEnds.push_back(static_cast<uint32_t>(block.cells.size()));
   ++count;
   if (count % kBlockRows == 0) block.cells.shrink_to_fit();  // where the width has changed
+}
+
+// Rows are as wide as the screen, nearly always: the room is for the whole block.
+void CScrollBackBuffer::BeginBlock(int rowLength) {
+  if (blocks.size() > 1 && (count > kMostRows || available() < kReserve)) {
+    blocks.pop_front();
+    count -= kBlockRows;
+  }
+  blocks.emplace_back();
+  blocks.back().cells.reserve(static_cast<size_t>(rowLength) * kBlockRows);
+  blocks.back().rowEnds.reserve(kBlockRows);
 }
 
 const Cell* CScrollBackBuffer::Row(int i, int& length) const {

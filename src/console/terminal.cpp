@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <tuple>
 
 #include "config/values/colours.h"
 #include "config/values/options.h"
@@ -16,7 +15,9 @@ namespace {
 
 constexpr char kBell = 7, kBackspaceByte = 8, kTabByte = 9, kLineFeed = 10, kReturn = 13, kEscapeByte = 27;
 constexpr char kTitleEnd = '\x9C';
-constexpr int kMostTitleBytes = 4096;  // a title without an end must not swallow all that follows
+// A title without an end must not swallow all that follows; but what is sent
+// as one, a clipboard for example, may be long.
+constexpr int kMostTitleBytes = 1 << 20;
 
 bool IsControl(char byte) { return static_cast<unsigned char>(byte) < 32; }
 bool IsPlain(char byte) { return static_cast<signed char>(byte) >= 32; }  // a character of one byte
@@ -74,12 +75,30 @@ CTerminal::CTerminal(TerminalScreen& screen, int masterFd)
   if (flags != -1) fcntl(masterFd, F_SETFL, flags | O_NONBLOCK);
 }
 
-CTerminal::~CTerminal() { LeaveAlternateScreen(); }
+// A child that is killed has the cursor anywhere, and what comes next would be
+// written over the rows that are shown again.
+CTerminal::~CTerminal() {
+  if (mainScreen != nullptr)
+    screen.SetCursor(std::min(mainX, grid.Columns() - 1), std::min(mainY, grid.Rows() - 1));
+  LeaveAlternateScreen();
+}
 
 void CTerminal::SendKey(Key code) {
+  if (!SendRest()) return;
   const Estring bytes = KeySequence(code, applicationCursor);
   const int length = code < 256 ? 1 : Length(bytes);  // the zero byte is a key too
-  if (length > 0) std::ignore = write(masterFd, bytes.Text(), static_cast<size_t>(length));
+  const ssize_t sent = length > 0 ? write(masterFd, bytes.Text(), static_cast<size_t>(length)) : 0;
+  if (sent > 0) unsentRest.Assign(bytes.Text() + sent, length - static_cast<int>(sent));
+}
+
+// A sequence that was cut, where there was no room for more, goes on before
+// anything else: the child would read its end as text. False while it has none.
+bool CTerminal::SendRest() {
+  const int length = Length(unsentRest);
+  if (length == 0) return true;
+  const ssize_t sent = write(masterFd, unsentRest.Text(), static_cast<size_t>(length));
+  if (sent > 0) unsentRest = Estring(unsentRest.Text() + sent);
+  return unsentRest.IsEmpty();
 }
 
 // ---- the stream ----------------------------------------------------------------

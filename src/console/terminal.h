@@ -48,13 +48,14 @@ class CTerminal {
   // The screen outlives the terminal. The descriptor stays the caller's, but is
   // made non-blocking, for reading too: whoever reads from it polls first.
   CTerminal(TerminalScreen& screen, int masterFd);
-  ~CTerminal();  // leaves the alternate screen
+  ~CTerminal();  // leaves the alternate screen, for where it was entered
   CTerminal(const CTerminal&) = delete;
   CTerminal& operator=(const CTerminal&) = delete;
 
   // n bytes of output. Zero bytes are dropped.
   void Write(const char* bytes, int n);
-  // From the GUI thread. Never waits: what the child does not take is lost.
+  // From the GUI thread. Never waits: a key that the child has no room for is
+  // lost, though never a part of one.
   void SendKey(Key code);
   // Adds row y of the screen to ScrollBack.
   void SaveScreenRow(int y);
@@ -63,6 +64,8 @@ class CTerminal {
   friend struct CsiTable;
 
   enum class State { Text, Escape, Charset, Title, Csi };
+
+  bool SendRest();
 
   // Parsing. TakeText returns the first byte that it did not take.
   const char* TakeText(const char* from, const char* to);
@@ -112,9 +115,11 @@ class CTerminal {
   bool graphicsCharset = false;
   bool applicationKeypad = false;
   std::atomic<bool> applicationCursor{false};  // read by the GUI thread
+  Estring unsentRest;                          // of the last key; the GUI thread's
   wchar_t lastCharacter = 0;
   std::unique_ptr<Cell[]> mainScreen;  // while the alternate screen is shown
   int mainColumns = 0, mainRows = 0;   // its size
+  int mainX = 0, mainY = 0;            // where it had the cursor
 
   State state = State::Text;
   Estring pending;  // a character of several bytes, so far; empty in the graphics set
@@ -125,3 +130,4 @@ class CTerminal {
 
 // The bytes that a key sends; empty for a key that sends nothing.
 Estring KeySequence(Key code, bool applicationCursor);
+bool SendsBytes(Key code);

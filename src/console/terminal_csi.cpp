@@ -178,10 +178,11 @@ struct CsiTable {
   static void ScrollUp(CTerminal& t, const CsiSequence& csi) { t.ScrollUp(csi.First(0)); }
   static void ScrollDown(CTerminal& t, const CsiSequence& csi) { t.ScrollDown(Count(csi)); }
 
-  // More than a screenful would show nothing else; the cursor ends in the same
-  // column.
+  // One screenful reaches the last row from anywhere, another one scrolls all out
+  // of any region. More would show nothing else, and fill the scrollback; the
+  // cursor ends in the same column.
   static void Repeat(CTerminal& t, const CsiSequence& csi) {
-    const int most = t.columns * t.rows, count = Count(csi);
+    const int most = 2 * t.columns * t.rows, count = Count(csi);
     if (t.lastCharacter == 0) return;
     t.PutRepeated(t.lastCharacter, count > most ? most + (count - most) % t.columns : count);
   }
@@ -304,6 +305,8 @@ void CTerminal::EnterAlternateScreen() {
   mainScreen = grid.SaveBlock(0, 0, columns, rows);
   mainColumns = columns;
   mainRows = rows;
+  mainX = x;
+  mainY = y;
   Blank(0, 0, columns - 1, rows - 1);
   x = y = 0;
 }

@@ -8,6 +8,13 @@
 
 TerminalDamage::TerminalDamage(int columns, int rows) : columns(columns), rows(rows) { Clear(); }
 
+void TerminalDamage::SetSize(int newColumns, int newRows) {
+  if (columns == newColumns && static_cast<int>(rows.size()) == newRows) return;
+  columns = newColumns;
+  rows.resize(static_cast<size_t>(newRows));
+  Clear();
+}
+
 void TerminalDamage::Clear() {
   std::fill(rows.begin(), rows.end(), Span{columns, -1});
   move = {};

@@ -9,6 +9,8 @@
 class TerminalDamage {
  public:
   TerminalDamage(int columns, int rows);
+  // A screen of another size is all painted, so that nothing is owed any more.
+  void SetSize(int newColumns, int newRows);
 
   void Changed(const CellRect& block);
   // The rows of the block moved by lines, downwards if negative.

@@ -39,3 +39,5 @@ Estring KeySequence(Key code, bool applicationCursor) {
   }
   return sequence;
 }
+
+bool SendsBytes(Key code) { return code < kFirstLongCode || !KeySequence(code, false).IsEmpty(); }

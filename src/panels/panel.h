@@ -107,5 +107,8 @@ struct PanelHooks {
   // closed; the rows are made anew by the next read.
   void (*openNode)(TPanel& panel, int row, bool open) = nullptr;
   void (*openBranch)(TPanel& panel, int row, bool open) = nullptr;
+  // The directory in the panel's tree that is nearest to what was typed. False,
+  // with path untouched, if there is none.
+  bool (*findInTree)(const TPanel& panel, const Westring& typed, Westring& path) = nullptr;
 };
 extern PanelHooks ThePanelHooks;

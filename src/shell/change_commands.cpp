@@ -6,6 +6,7 @@
 #include <cctype>
 #include <cerrno>
 #include <cstring>
+#include <cwchar>
 
 #include "dialogs/prompt.h"
 #include "foundation/paths.h"
@@ -13,6 +14,7 @@
 #include "panels/navigation.h"
 #include "shell/run_command.h"
 #include "shell/shell_quote.h"
+#include "shell/spawn.h"
 #include "shell/temp_names.h"
 
 namespace {
@@ -54,21 +56,29 @@ bool ReadChoice(StdFile& file, Westring& path) {
   return true;
 }
 
+// Of a directory that is not where it was looked for, a panel's tree may know.
+bool FindInTree(const TPanel& panel, const Westring& typed, Westring& path) {
+  return panel.tree && ThePanelHooks.findInTree && ThePanelHooks.findInTree(panel, typed, path);
+}
+
 }  // namespace
 
 int RunCd(const Westring& command, int side, Westring& target) {
   TPanel& panel = Panels[side];
-  Westring typed = Unquote(LTrim(Mid(command, kCdLength)));
+  const wchar_t* const behind = command.Text() + kCdLength;
+  Westring typed = Unquote(behind + wcsspn(behind, L" "));  // a wider blank begins a name
   ReplaceAll(typed, L"\\", L"/");
   if (typed.IsEmpty()) typed = L".";
   if (!NormalisePath(typed, panel.path, target)) return Refuse(L"Invalid path", typed);
-  return ChangeDirectory(panel, target) ? 0 : Refuse(L"Invalid directory", target);
+  if (ChangeDirectory(panel, target)) return 0;
+  if (FindInTree(panel, typed, target) && ChangeDirectory(panel, target)) return 0;
+  return Refuse(L"Invalid directory", target);
 }
 
 void RunVcd(const Westring& command, int side, const Westring& prompt) {
   const Westring scratch = ScratchFile();
   if (const int error = RemoveScratchFile(scratch)) return ShowPathError(error, scratch);
-  const Westring arguments = Trim(Mid(command, kVcdLength));
+  const Westring arguments = TrimCommand(Mid(command, kVcdLength));
   RunCommand(L"vcdpgm.exe " + arguments + L" > " + ShellQuote(scratch), side, prompt, kRunPlain);
 
   StdFile file;

@@ -171,8 +171,11 @@ bool StartDetached(const Westring& command) {
   const pid_t child = fork();
   if (child < 0) return false;
   if (child == 0) {
-    if (fork() != 0) _exit(0);
-    setsid();
+    const pid_t own = fork();
+    if (own > 0) _exit(0);
+    // Where there is no room for one more process, this one runs it. It stays in our
+    // group, for it is then ours to collect.
+    if (own == 0) setsid();
     LeaveTerminal();
     CloseInherited();
     call.Execute();

@@ -49,7 +49,9 @@ int RunEscape(Shell& shell) {
 // The directory history has this key with Alt alone; its menu item leads here
 // without Alt and goes to the root.
 int RunAltBackslash(Shell& shell) {
-  return shell.modifiers & kModAlt ? RunDirectoryHistory(shell) : GoToRoot(shell);
+  if (shell.modifiers & kModAlt) return RunDirectoryHistory(shell);
+  ActivePanel().quickSearch[0] = 0;  // as the root's own key
+  return GoToRoot(shell);
 }
 
 int RunReRead(Shell& shell) {

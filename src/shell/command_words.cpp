@@ -1,7 +1,9 @@
 // The first word of a command line. The shell reads the line itself; we only
 // have to know which program it begins with.
 #include <algorithm>
+#include <cwchar>
 
+#include "shell/shell_quote.h"
 #include "shell/spawn.h"
 
 int FindUnescaped(const Westring& text, wchar_t character) {
@@ -12,16 +14,14 @@ int FindUnescaped(const Westring& text, wchar_t character) {
   return -1;
 }
 
-Westring Unescape(const Westring& text) {
-  Westring plain;
-  for (const wchar_t* p = text.Text(); *p; ++p) {
-    if (*p == L'\\' && p[1]) ++p;
-    plain += *p;
-  }
-  return plain;
-}
+// Most words with escapes in them are names that ShellQuote has protected.
+Westring Unescape(const Westring& text) { return Unquote(text); }
 
 namespace {
+
+// Around a command these say nothing. ShellQuote protects them all; a wider blank
+// is a letter to the shell, and to us.
+constexpr wchar_t kBlanks[] = L" \t\n\v\f\r";
 
 // Of two places, -1 for none, the first one.
 int FirstOf(int a, int b) { return a < 0 || b < 0 ? std::max(a, b) : std::min(a, b); }
@@ -35,9 +35,9 @@ bool IsEscaped(const Westring& text, int i) {
 
 // A file's name may end in a blank, which is escaped.
 Westring WithoutBlanksBehind(const Westring& text) {
-  const Westring cut = RTrim(text);
-  const int length = Length(cut);
-  return IsEscaped(cut, length) ? Left(text, length + 1) : cut;
+  int end = Length(text);
+  while (end > 0 && wcschr(kBlanks, text[end - 1]) && !IsEscaped(text, end - 1)) --end;
+  return Left(text, end);
 }
 
 bool EndsInAmpersand(const Westring& text) {
@@ -46,6 +46,10 @@ bool EndsInAmpersand(const Westring& text) {
 }
 
 }  // namespace
+
+Westring TrimCommand(const Westring& text) {
+  return WithoutBlanksBehind(text.Text() + wcsspn(text.Text(), kBlanks));
+}
 
 CommandWords SplitCommand(const Westring& text) {
   CommandWords words;
@@ -61,7 +65,7 @@ CommandWords SplitCommand(const Westring& text) {
   const int split = FirstOf(FindUnescaped(words.command, L' '), FindUnescaped(words.command, L'|'));
   if (split > 0) {
     words.program = Unescape(Left(words.command, split));
-    words.arguments = Trim(Mid(words.command, split + 1));
+    words.arguments = TrimCommand(Mid(words.command, split + 1));
   }
   return words;
 }

@@ -13,13 +13,14 @@
 #include "shell/macros.h"
 #include "shell/panel_commands.h"
 #include "shell/run_command.h"
+#include "shell/spawn.h"
 
 namespace {
 
 constexpr uint16_t kExecuteBits = 0111;
 
 int RunText(int side, const Westring& text, bool separate) {
-  Westring line = Trim(text);
+  Westring line = TrimCommand(text);
   if (line.IsEmpty()) return kRedrawAll;
   if (separate) line = ApplyBackgroundTemplate(line);
   AddCommand(text);

@@ -20,10 +20,13 @@ void AddCommand(const Westring& text, bool quiet, bool isNew) {
 
 namespace {
 
+void KeepEditedLine(Shell& shell) {
+  if (shell.historyIndex == 0) shell.savedLine = shell.commandLine;
+}
+
 // One step through the ring of the line being edited (0) and all commands.
 void Step(Shell& shell, int step) {
   const int count = CommandHistory.Count();
-  if (shell.historyIndex == 0) shell.savedLine = shell.commandLine;
   shell.historyIndex += step;
   if (shell.historyIndex > count) shell.historyIndex = 0;
   if (shell.historyIndex < 0) shell.historyIndex = count;
@@ -36,6 +39,7 @@ const Westring& SteppedLine(const Shell& shell) {
 
 int StepAndShow(Shell& shell, int step) {
   if (CommandHistory.Count() == 0) return kRedrawNothing;
+  KeepEditedLine(shell);
   Step(shell, step);
   SetCommandLine(shell, SteppedLine(shell));
   return kRedrawLine;
@@ -50,6 +54,7 @@ bool SearchByPrefix(Shell& shell, bool older) {
   const int length = shell.commandCursor;
   const Westring prefix = Left(shell.commandLine, length);
   shell.commandLine = prefix;
+  KeepEditedLine(shell);
   const int count = CommandHistory.Count();
   for (int steps = 0; steps <= count; ++steps) {
     Step(shell, older ? 1 : -1);

@@ -78,21 +78,6 @@ void PrepareScreen(const Westring& prompt) {
   Console->SetCursor(0, prompt.IsEmpty() ? ScreenRows - 2 : ScreenRows - 1);
 }
 
-// While it lives, all of the screen can be selected with the mouse.
-class WholeScreenSelectable {
- public:
-  WholeScreenSelectable() {
-    Console->GetSelectableRegion(before);
-    Console->SetSelectableRegion(0, 0, ScreenColumns, ScreenRows);
-  }
-  ~WholeScreenSelectable() { Console->SetSelectableRegion(before); }
-  WholeScreenSelectable(const WholeScreenSelectable&) = delete;
-  WholeScreenSelectable& operator=(const WholeScreenSelectable&) = delete;
-
- private:
-  CellRect before;
-};
-
 int RunOnScreen(const Call& call) {
   PrepareScreen(call.prompt);
   const WholeScreenSelectable selectable;

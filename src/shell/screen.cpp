@@ -108,6 +108,13 @@ void UpdateSelectableRegion() {
     Console->SetSelectableRegion(0, 0, ScreenColumns, ScreenRows - 2);
 }
 
+WholeScreenSelectable::WholeScreenSelectable() {
+  Console->GetSelectableRegion(before);
+  Console->SetSelectableRegion(0, 0, ScreenColumns, ScreenRows);
+}
+
+WholeScreenSelectable::~WholeScreenSelectable() { Console->SetSelectableRegion(before); }
+
 void SetupLocale() {
   ReadLocaleFormats();
   DefaultCodePage = static_cast<unsigned short>(Options::CodePage ? Options::CodePage : 850);

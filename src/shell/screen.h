@@ -1,6 +1,7 @@
 // The screen's size and the panels' windows on it.
 #pragma once
 
+#include "console/cell.h"
 #include "shell/shell.h"
 
 // Percent of a cell that the cursor on the command line fills.
@@ -25,6 +26,18 @@ void LeaveScreen();
 
 // Gives the mouse to the console text while no panel is shown.
 void UpdateSelectableRegion();
+
+// While it lives, the mouse selects text on all of the screen.
+class WholeScreenSelectable {
+ public:
+  WholeScreenSelectable();
+  ~WholeScreenSelectable();
+  WholeScreenSelectable(const WholeScreenSelectable&) = delete;
+  WholeScreenSelectable& operator=(const WholeScreenSelectable&) = delete;
+
+ private:
+  CellRect before;
+};
 
 // Number formats, the code page and the case tables of the locale.
 void SetupLocale();

@@ -32,21 +32,6 @@ class ScreenInScrollBack {
   int added;
 };
 
-// The mouse copies text from what the object's life covers.
-class WholeScreenSelectable {
- public:
-  WholeScreenSelectable() {
-    Console->GetSelectableRegion(before);
-    Console->SetSelectableRegion(0, 0, ScreenColumns, ScreenRows);
-  }
-  ~WholeScreenSelectable() { Console->SetSelectableRegion(before); }
-  WholeScreenSelectable(const WholeScreenSelectable&) = delete;
-  WholeScreenSelectable& operator=(const WholeScreenSelectable&) = delete;
-
- private:
-  CellRect before;
-};
-
 class CScrollBackViewer : public Win {
  public:
   CScrollBackViewer()

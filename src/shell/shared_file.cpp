@@ -86,21 +86,28 @@ int SharedFile::Open(const Westring& name, int creation) {
 int SharedFile::OpenToRead(const Westring& name) { return Open(name, 0); }
 int SharedFile::OpenToAppend(const Westring& name) { return Open(name, O_CREAT); }
 
-int SharedFile::Read(std::string& content) {
+int SharedFile::ReadFrom(off_t start, std::string& content) {
   constexpr size_t kStep = 1 << 16;
   content.clear();
-  for (off_t at = 0;;) {
+  for (size_t length = 0;;) {
+    const off_t at = start + static_cast<off_t>(length);
     if (at > kLargestFile) return EFBIG;
-    content.resize(static_cast<size_t>(at) + kStep);
-    const ssize_t got = Uninterrupted([&] { return pread(fd, content.data() + at, kStep, at); });
+    content.resize(length + kStep);
+    const ssize_t got = Uninterrupted([&] { return pread(fd, content.data() + length, kStep, at); });
     if (got < 0) return errno;
-    at += got;
-    content.resize(static_cast<size_t>(at));
+    length += static_cast<size_t>(got);
+    content.resize(length);
     if (got == 0) return 0;
   }
 }
 
-int SharedFile::Append(std::string_view lines) {
+int SharedFile::Read(std::string& content) {
+  const int code = ReadFrom(0, content);
+  readSize = static_cast<off_t>(content.size());
+  return code;
+}
+
+int SharedFile::AppendHere(std::string_view lines) {
   const off_t size = lseek(fd, 0, SEEK_END);
   char last = '\n';
   if (size > 0 && Uninterrupted([&] { return pread(fd, &last, 1, size - 1); }) < 0) return errno;
@@ -115,10 +122,31 @@ int SharedFile::Append(std::string_view lines) {
   return code;
 }
 
+// Without the lock the file may be replaced before the lines are in it. One more
+// append is enough: who replaces it again has to read and write it first.
+int SharedFile::Append(std::string_view lines) {
+  const int code = AppendHere(lines);
+  if (code != 0 || locked || IsStillThere()) return code;
+  const int openCode = OpenPlain(O_CREAT);
+  return openCode == 0 ? AppendHere(lines) : openCode;
+}
+
+// Bringing the new file to a slow disk takes longer than the others wait for the
+// lock. They append to the old file, or find that it was replaced.
+int SharedFile::CarryOver() {
+  std::string late;
+  const int code = ReadFrom(readSize, late);
+  if (code != 0 || late.empty()) return code;
+  SharedFile successor;
+  const int openCode = successor.OpenToAppend(path);
+  return openCode == 0 || openCode == EBUSY ? successor.Append(late) : openCode;
+}
+
 int SharedFile::Replace(std::string_view content) {
   if (!writable) return EACCES;
   ReplacementFile replacement;
   if (const int code = replacement.Open(path)) return code;
   if (const int code = replacement.File().Write(content.data(), content.size())) return code;
-  return replacement.Commit();
+  if (const int code = replacement.Commit()) return code;
+  return CarryOver();
 }

@@ -2,6 +2,8 @@
 // opened, it is locked against the others until the object's end.
 #pragma once
 
+#include <sys/types.h>
+
 #include <string>
 #include <string_view>
 
@@ -25,17 +27,22 @@ class SharedFile {
   // one first. After an error the file is as it was.
   int Append(std::string_view lines);
 
-  // Puts a new file in the place of this one at once, while the lock is held.
-  // The user's own protection of the file holds for that, too. 0 or errno.
+  // Puts a new file in the place of this one at once, while the lock is held,
+  // and behind it what others have appended without the lock since Read. The
+  // user's own protection of the file holds for that, too. 0 or errno.
   int Replace(std::string_view content);
 
  private:
   int Open(const Westring& path, int creation);
   int OpenPlain(int creation);
   bool IsStillThere() const;
+  int ReadFrom(off_t start, std::string& content);
+  int AppendHere(std::string_view lines);
+  int CarryOver();
   void Close();
 
   Westring path;
   int fd = -1;
+  off_t readSize = 0;  // what Read has given
   bool locked = false, writable = false;
 };

@@ -82,14 +82,14 @@ bool LinksX11(const Westring& path) {
   const pid_t child = fork();
   if (child == 0) BecomeLoader(program, ends[1]);
   close(ends[1]);
-  FILE* const lines = child > 0 ? fdopen(ends[0], "r") : nullptr;
-  if (!lines) {
+  bool found = false;
+  if (FILE* const lines = child > 0 ? fdopen(ends[0], "r") : nullptr) {
+    found = HoldsText(lines, "libX11");
+    fclose(lines);
+  } else {
     close(ends[0]);
-    return false;
   }
-  const bool found = HoldsText(lines, "libX11");
-  fclose(lines);
-  waitpid(child, nullptr, 0);
+  if (child > 0) waitpid(child, nullptr, 0);  // where the reaper has not done so
   return found;
 }
 

@@ -23,8 +23,10 @@ CommandWords SplitCommand(const Westring& text);
 
 // Index of the first character that no backslash escapes, or -1.
 int FindUnescaped(const Westring& text, wchar_t character);
-// One level of backslashes removed.
+// One level of escapes removed: backslashes, and ShellQuote's way with a newline.
 Westring Unescape(const Westring& text);
+// Without the blanks around it. One that is escaped at its end belongs to a name.
+Westring TrimCommand(const Westring& text);
 
 // The commands "$view" and "$edit"; null where there is no viewer or editor yet.
 struct BuiltInCommands {

@@ -126,6 +126,24 @@ TEST_F(Commands, ControlZStopsAJobOfAShellAndControlDLeavesIt) {
   EXPECT_TRUE(PanelsAreBackIntact());
 }
 
+TEST(Modifiers, LetGoWhileAChildHasTheKeysAreHeldNoMore) {
+  Desktop d({}, "Background=!\n");
+  d.Keys("'echo up; read x' +Alt Enter");
+  ASSERT_TRUE(d.EventuallyShows("\nup "));
+  d.Keys("-Alt Enter");
+  EXPECT_TRUE(d.Eventually([&] { return d.Row(24).starts_with("1Help   2Menu"); }));
+}
+
+TEST(Modifiers, PressedWhileAChildHasTheKeysAreHeldAtItsEnd) {
+  Desktop d;
+  d.Keys("'echo up; read x' Enter");
+  ASSERT_TRUE(d.EventuallyShows("\nup "));
+  d.Keys("+Shift Enter");
+  EXPECT_TRUE(d.Eventually([&] { return d.Row(24).starts_with("1Manual 2MnMenu"); }));
+  d.Keys("-Shift");
+  EXPECT_TRUE(d.Eventually([&] { return d.Row(24).starts_with("1Help   2Menu"); }));
+}
+
 TEST_F(Commands, APagerIsUsedAndLeft) {
   NEEDS("less");
   Run("less text");

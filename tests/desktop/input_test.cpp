@@ -101,6 +101,24 @@ TEST(Input, ClickOnTheConsoleTextCopiesNothing) {
   EXPECT_EQ(d.Clipboard(), "kept");
 }
 
+TEST(Input, DragOverTheScrollbackCopiesWhatHasScrolledOff) {
+  Desktop d;
+  d.Keys("Ctrl-O 'seq 1001 1100; echo done > ../home/done' Enter");
+  ASSERT_TRUE(
+      d.Eventually([&] { return d.Content("home/done") == "done\n" && d.Row(21).starts_with("1100 "); }));
+  d.Keys("Ctrl-B Up Up");
+  ASSERT_TRUE(d.Eventually([&] { return d.Row(24).starts_with("1099 "); })) << d.Screen();
+  d.Keys("PgUp");
+  ASSERT_TRUE(d.Eventually([&] { return d.Row(24).starts_with("1076 "); })) << "two rows stay on the screen";
+  d.MovePointer(2, 23);
+  d.Press(kLeftButton);
+  d.MovePointer(40, 24);
+  d.Release(kLeftButton);
+  EXPECT_TRUE(d.Eventually([&] { return d.Clipboard() == "75\n76\n"; })) << d.Clipboard();
+  d.Keys("Esc");
+  EXPECT_TRUE(d.Eventually([&] { return d.Row(21).starts_with("1100 "); }));
+}
+
 TEST(Input, MiddleButtonMeansNothing) {
   Desktop d(kFiveFiles);
   d.Click(kMiddleButton, 5, 4);

@@ -28,6 +28,14 @@ TEST(Window, TitleIsThePathOfTheActivePanel) {
   EXPECT_TRUE(d.Eventually([&] { return d.Title() == "Orvane: " + d.Path("right"); }));
 }
 
+TEST(Window, TitleIsTheCommandWhileItRuns) {
+  Desktop d;
+  d.Keys("'read line' Enter");
+  EXPECT_TRUE(d.Eventually([&] { return d.Title() == "Orvane: read line"; }));
+  d.Keys("Enter");
+  EXPECT_TRUE(d.Eventually([&] { return d.Title() == "Orvane: " + d.Path("left"); }));
+}
+
 TEST(Window, CloseButtonAsksAndEscStays) {
   Desktop d;
   d.CloseWindow();

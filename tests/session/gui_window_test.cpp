@@ -1,55 +1,12 @@
 // The panel's directory in the desktop's file browser.
-#include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstdlib>
-
 #include "console/console.h"
-#include "foundation/environment.h"
-#include "session/main_screen.h"
+#include "session/browser_fixture.h"
 
 namespace {
 
-using Strings = std::vector<std::string>;
-
-// Tells its name, its arguments and where it was started, in one step.
-const char kBrowser[] =
-    "#!/bin/sh\n"
-    "{ printf '<%s>' \"${0##*/}\" \"$@\"; printf '@%s' \"$(pwd)\"; } > \"$HOME/told.new\"\n"
-    "/bin/mv \"$HOME/told.new\" \"$HOME/told\"\n";
-
-// The browsers of a test are the only programs that are found.
-class GuiWindow : public testing::Test {
- protected:
-  GuiWindow() : oldPath(getenv("PATH") ? getenv("PATH") : "") {}
-  ~GuiWindow() override {
-    session.reset();
-    setenv("PATH", oldPath.c_str(), 1);
-  }
-
-  Session& Start(const Strings& browsers, FileList files = {}) {
-    for (const std::string& name : browsers) files.emplace_back("bin/" + name, kBrowser);
-    session.emplace(files, SessionSetup{.prepare = [browsers](const Sandbox& sandbox) {
-                      for (const std::string& name : browsers)
-                        chmod(sandbox.Path("bin/" + name).c_str(), 0755);
-                    }});
-    setenv("PATH", session->Path("bin").c_str(), 1);
-    Variables.Set("PATH", session->Path("bin").c_str());
-    return *session;
-  }
-
-  // What the browser that was started tells.
-  std::string Told() {
-    session->WaitFor([this] { return session->Exists("home/told"); });
-    return session->Content("home/told");
-  }
-
-  std::optional<Session> session;
-
- private:
-  std::string oldPath;
-};
+using GuiWindow = BrowserFixture;
 
 }  // namespace
 
@@ -135,7 +92,7 @@ TEST_F(GuiWindow, ADirectoryThatCannotBeEnteredIsToldAndNothingRuns) {
   ASSERT_TRUE(row);
   EXPECT_TRUE(s.Row(*row + 1).Contains(" " + s.Path("left") + " "));
   s.Keys("Esc");
-  EXPECT_FALSE(s.Exists("home/told.new"));
+  EXPECT_FALSE(s.Exists("home/told"));
   EXPECT_EQ(s.Names(kRightSide), Strings{".."});
 }
 
@@ -144,5 +101,5 @@ TEST_F(GuiWindow, WithBothPanelsOffOrOnInformationTheKeyDoesNothing) {
   s.Write("left/new", "");
   s.Keys("Ctrl-O Ctrl-W Ctrl-O Ctrl-L Tab Ctrl-W Tab Ctrl-L");
   EXPECT_EQ(s.Names(kLeftSide), Strings{".."});
-  EXPECT_FALSE(s.Exists("home/told.new"));
+  EXPECT_FALSE(s.Exists("home/told"));
 }

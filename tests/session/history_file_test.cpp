@@ -79,6 +79,22 @@ TEST(HistoryFileOfASession, AFileThatCannotBeKeptIsToldOnce) {
   EXPECT_EQ(LineOf(s), "set A=1");
 }
 
+TEST(HistoryFileOfASession, AnEntryThatCannotBeKeptIsToldAndTheDialogHoldsAllTheSame) {
+  Session s({{"home/.orvane/", ""}}, {.prepare = [](const Sandbox& files) {
+              std::filesystem::create_symlink("/no/such/place", files.Path(kFile));
+            }});
+  s.Command(kMenuLeftFilter);
+  s.Keys("'*.c' Enter");
+  EXPECT_TRUE(s.FindRow("No such file or directory").has_value());
+  s.Keys("Enter");
+  EXPECT_FALSE(s.FindRow("No such file or directory").has_value());
+  EXPECT_FALSE(s.FindRow("Filter for").has_value());
+  EXPECT_EQ(std::string(ToUtf8(Panels[0].filter).Text()), "*.c");
+  s.Command(kMenuLeftFilter);
+  s.Keys("Alt-Down");
+  EXPECT_TRUE(s.FindRow("║*.c ").has_value());
+}
+
 TEST(HistoryFileOfASession, ADirectoryInItsPlaceIsToldAtTheStart) {
   Session s({{std::string(kFile) + "/", ""}});
   EXPECT_TRUE(s.FindRow("Is a directory").has_value());

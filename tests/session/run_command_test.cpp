@@ -105,6 +105,14 @@ TEST(RunCommand, AFileOfAnyNameReachesItAsOneArgument) {
   EXPECT_EQ(s.Content("out"), "x|" + name + "|");
 }
 
+TEST(RunCommand, ABlankAtTheEndOfANameIsNoneAroundTheCommand) {
+  for (const std::string name : {"a ", "b\t", "c\xE3\x80\x80"}) {
+    Session s({{"left/" + name, ""}});
+    s.Keys("Down 'printf %s >../out ' Ctrl-Enter Enter");
+    EXPECT_EQ(s.Content("out"), name);
+  }
+}
+
 // ---- what can go wrong
 
 TEST(RunCommand, AProgramThatIsNotThereIsToldByTheShell) {
@@ -226,10 +234,8 @@ TEST(RunCommand, AFloodEndsWithItsLastRow) {
 TEST(RunExpanded, RepeatsForEachTaggedFileWithOnePrompt) {
   Session s({{"left/a", ""}, {"left/b", ""}, {"left/c", ""}, {"left/d", ""}});
   s.Keys("Down Ins Down Ins Ins");
-  RunLine(s, "echo <!t>");
-  const Strings text = ConsoleText(s);
-  EXPECT_EQ(text[0], Prompt(s) + "echo <!t>");
-  EXPECT_EQ(std::count(text.begin(), text.end(), text[0]), 1);
+  RunLine(s, "echo +!t+");
+  EXPECT_EQ(ConsoleText(s), (Strings{Prompt(s) + "echo +!t+", "+a+", "", "+c+", "", "+d+", ""}));
 }
 
 TEST(RunExpanded, TakesTheTaggedFilesInTheOrderOfTheList) {

@@ -174,6 +174,8 @@ TEST_F(Spawn, TheViewerAndTheEditorAreCommands) {
   EXPECT_EQ(Edited, "");
   EXPECT_EQ(Run("$Edit a|b"), 0);
   EXPECT_EQ(Edited, "a|b");
+  EXPECT_EQ(Run("$edit '\n'two'\n'lines\\ "), 0);
+  EXPECT_EQ(Edited, "\ntwo\nlines ");
   EXPECT_EQ(Run("$edit"), 0);
   EXPECT_EQ(Edited, "");
 }

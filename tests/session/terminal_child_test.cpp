@@ -86,6 +86,18 @@ bool ForbidForks() {
          prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
 }
 
+// Of this process, with what they are.
+std::string OpenDescriptors() {
+  std::string open;
+  for (int fd = 0; fd < 1024; ++fd) {
+    char place[256];
+    const std::string link = "/proc/self/fd/" + std::to_string(fd);
+    const ssize_t length = readlink(link.c_str(), place, sizeof place);
+    if (length > 0) open += link + " " + std::string(place, static_cast<size_t>(length)) + "\n";
+  }
+  return open;
+}
+
 // The times that a thread of ours has gone to sleep by itself.
 int64_t SleepsOf(pid_t thread) {
   std::ifstream status("/proc/self/task/" + std::to_string(thread) + "/status");
@@ -186,6 +198,26 @@ TEST_F(TerminalChild, ItHasNoDescriptorsOfOurs) {
   close(ours);
 }
 
+TEST_F(TerminalChild, ItHasTheThreeOfItsTerminalOnly) {
+  RunOnTerminal(L"(for fd in /proc/$$/fd/*; do readlink $fd; done) > out; :");  // the shell stays to be seen
+  std::istringstream places(Content("out"));
+  std::string place, terminal;
+  int count = 0;
+  for (; places >> place; ++count) {
+    if (terminal.empty()) terminal = place;
+    EXPECT_EQ(place, terminal);
+  }
+  EXPECT_EQ(terminal.substr(0, 9), "/dev/pts/");
+  EXPECT_EQ(count, 3);
+}
+
+TEST_F(TerminalChild, TwoHundredOfThemLeaveNoDescriptors) {
+  RunOnTerminal(L":");
+  const std::string before = OpenDescriptors();
+  for (int i = 0; i < 200; ++i) ASSERT_EQ(RunOnTerminal(L"exit 3"), 3);
+  EXPECT_EQ(OpenDescriptors(), before);
+}
+
 TEST_F(TerminalChild, WhatWeIgnoreTheUsersKeysDoAgain) {
   for (const int number : {SIGINT, SIGQUIT, SIGHUP, SIGTERM}) {
     const SignalIgnored ignored(number);
@@ -281,6 +313,9 @@ TEST_F(TerminalChild, OneThatDrawsOnTheOtherScreenAndIsKilledLeavesTheFirst) {
 
 TEST_F(TerminalChild, WithoutATerminalItFailsInSilence) {
   const auto before = Snapshot();
+  // As the call will, for a sanitizer needs a pipe to look at an object's class
+  // for the first time.
+  Console->SetCursor(0, kRows - 1);
   {
     const NoDescriptors none;
     EXPECT_EQ(RunOnTerminal(L"echo text"), -1);
@@ -306,4 +341,20 @@ TEST_F(TerminalChild, WithoutAProcessTheUserIsTold) {
         _exit(forbidden && told && result == -1 ? 0 : 1);
       },
       testing::ExitedWithCode(0), "");
+}
+
+// The system then collects a child itself, and tells nobody what it came to.
+TEST_F(TerminalChild, AChildThatCannotBeWaitedForIsToldByItsError) {
+  std::thread meddler([] {
+    Content("pipe");
+    signal(SIGCHLD, SIG_IGN);
+    WriteInto("answer", "end\n");
+  });
+  bool told = false;
+  Then([&] { told = Screen().find("Error 10 waiting for child") != std::string::npos; });
+  Keys("Esc");
+  EXPECT_EQ(RunOnTerminal(L"echo > pipe; read line < answer; exit 4"), -1);
+  meddler.join();
+  signal(SIGCHLD, SIG_DFL);
+  EXPECT_TRUE(told);
 }

@@ -1,36 +1,32 @@
 // What a child's output leaves on the window: after any paints on the way the
-// pixels are those of a screen that is painted anew.
+// pixels are those of a screen that is painted anew. And how often it rings.
+#include <X11/XKBlib.h>
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+#include <atomic>
 #include <chrono>
 #include <memory>
 #include <random>
 #include <string>
+#include <thread>
 #include <vector>
 
-#include "support/console_fixture.h"
+#include "support/display_fixture.h"
 
 namespace {
 
 constexpr unsigned long kMagenta = 0x7F007F, kGreen = 0x007F00, kWhite = 0xFFFFFF;
-constexpr auto kPatience = std::chrono::seconds(10);
 
-struct DisplayClose {
-  void operator()(Display* display) const { XCloseDisplay(display); }
-};
 struct ImageRelease {
   void operator()(XImage* image) const { XDestroyImage(image); }
 };
 using Image = std::unique_ptr<XImage, ImageRelease>;
-using Connection = std::unique_ptr<Display, DisplayClose>;
 
-class TerminalPicture : public ConsoleFixture {
+class TerminalPicture : public DisplayFixture {
  protected:
-  TerminalPicture() : display(XOpenDisplay(nullptr)) {
-    FindWindow();
-    Console->AttachTerminal(-1);
-  }
+  TerminalPicture() { Console->AttachTerminal(-1); }
 
   void Write(const std::string& bytes) {
     Console->WriteTerminal(bytes.data(), static_cast<int>(bytes.size()));
@@ -44,6 +40,30 @@ class TerminalPicture : public ConsoleFixture {
   void AwaitCursor(int column, int row) {
     const int x = column * CellWidth() + CellWidth() / 2, y = (row + 1) * CellHeight() - 1;
     EXPECT_TRUE(PictureWith(kWhite, x, y) != nullptr) << "no cursor";
+  }
+
+  void StartCountingBells() {
+    auto* const x = display.get();
+    ASSERT_TRUE(XkbQueryExtension(x, nullptr, &xkbEvent, nullptr, nullptr, nullptr));
+    XkbSelectEvents(x, XkbUseCoreKbd, XkbBellNotifyMask, XkbBellNotifyMask);
+    XSelectInput(x, window, PropertyChangeMask);
+    XSync(x, False);
+  }
+
+  // Those before a new title, which follows them on the same way to the display.
+  int CountBells() {
+    Console->SetTitle("rung");
+    int bells = 0;
+    const auto deadline = std::chrono::steady_clock::now() + kPatience;
+    while (std::chrono::steady_clock::now() < deadline) {
+      if (XPending(display.get()) == 0) continue;
+      XEvent event;
+      XNextEvent(display.get(), &event);
+      const auto& xkb = reinterpret_cast<const XkbAnyEvent&>(event);
+      if (event.type == xkbEvent && xkb.xkb_type == XkbBellNotify) ++bells;
+      if (event.type == PropertyNotify && event.xproperty.atom == XA_WM_NAME) return bells;
+    }
+    return -1;
   }
 
   // Detaches the terminal, which paints the screen anew. The last cell tells
@@ -61,22 +81,6 @@ class TerminalPicture : public ConsoleFixture {
   }
 
  private:
-  void FindWindow() {
-    Window root, parent, *children = nullptr;
-    unsigned count = 0;
-    auto* const x = display.get();
-    const auto deadline = std::chrono::steady_clock::now() + kPatience;
-    while (window == 0 && std::chrono::steady_clock::now() < deadline) {
-      XQueryTree(x, DefaultRootWindow(x), &root, &parent, &children, &count);
-      for (unsigned i = 0; i < count; ++i) {
-        XWindowAttributes is;
-        if (XGetWindowAttributes(x, children[i], &is) && is.map_state == IsViewable && is.width > kColumns)
-          window = children[i], width = is.width, height = is.height;
-      }
-      if (children) XFree(children);
-    }
-  }
-
   // Of the last cell's middle.
   Image PictureWith(unsigned long colour) {
     return PictureWith(colour, width - CellWidth() / 2, height - CellHeight() / 2);
@@ -114,9 +118,7 @@ class TerminalPicture : public ConsoleFixture {
   int CellWidth() const { return width / kColumns; }
   int CellHeight() const { return height / kRows; }
 
-  Connection display;
-  Window window = 0;
-  int width = 0, height = 0;
+  int xkbEvent = -1;
 };
 
 }  // namespace
@@ -149,6 +151,21 @@ TEST_F(TerminalPicture, AFloodEndsWithTheRightPixels) {
   ExpectTruePicture();
 }
 
+// The other thread draws the cursor's cell as the blinking does, only more often.
+TEST_F(TerminalPicture, AFloodMayTurnTheRowsWhileTheCursorBlinks) {
+  std::atomic<bool> isOver{false};
+  std::thread blinking([&] {
+    for (int size = 15; !isOver; size = 115 - size) Console->SetCursorSize(size);
+  });
+  Write("\033[?1049h\033[25;1H");  // nothing is kept, so that rows turn all the time
+  const std::string flood(1000, '\n');
+  const uint64_t drawn = Console->DrawCount();
+  while (Console->DrawCount() < drawn + 300000) Write(flood);
+  isOver = true;
+  blinking.join();
+  ExpectTruePicture();
+}
+
 TEST_F(TerminalPicture, IsTrueAfterAnyOutputAndPaints) {
   const std::vector<std::string> kOutput = {
       "text",
@@ -172,6 +189,9 @@ TEST_F(TerminalPicture, IsTrueAfterAnyOutputAndPaints) {
       "\033[?25l",
       "\033[?25h",
       "a longer line of text\n",
+      "\u2500\u2502\u253C",
+      "\u2550\u2551\u256C\u2588\u2592",
+      "\u4E2D\u6587\u05D0\U0001F600e\u0301",
       "\033[4P",
       "\033[3@",
       "\033[A",
@@ -184,4 +204,36 @@ TEST_F(TerminalPicture, IsTrueAfterAnyOutputAndPaints) {
   }
   Write("\033[1;25r");
   ExpectTruePicture();
+}
+
+// As those of "W" or "%", which a cell drawn by itself cuts off beside it.
+TEST_F(TerminalPicture, GlyphsMayReachIntoTheCellsBesideThem) {
+  std::mt19937 random(13);
+  for (int step = 0; step < 4000; ++step) {
+    const char character = static_cast<char>('!' + random() % 94);
+    if (random() % 3 == 0)
+      Write("\033[" + std::to_string(1 + random() % kRows) + ";" + std::to_string(1 + random() % kColumns) +
+            "H");
+    Write(std::string(1 + random() % 3, character));
+    if (random() % 3 == 0) Console->PaintTerminal();
+  }
+  ExpectTruePicture();
+}
+
+// ---- the bell ------------------------------------------------------------------
+
+TEST_F(TerminalPicture, BellsBetweenTwoPaintsRingOnce) {
+  StartCountingBells();
+  Write("a\a\ab\a");
+  EXPECT_EQ(CountBells(), 0);
+  Console->PaintTerminal();
+  EXPECT_EQ(CountBells(), 1);
+  Console->PaintTerminal();
+  EXPECT_EQ(CountBells(), 0);
+}
+
+TEST_F(TerminalPicture, ABellRingsWhereNothingElseChanges) {
+  StartCountingBells();
+  Console->WriteText("\a");
+  EXPECT_EQ(CountBells(), 1);
 }

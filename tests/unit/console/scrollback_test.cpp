@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 #include <malloc.h>
+#include <sys/resource.h>
 
+#include <cstdlib>
 #include <random>
 
 #include "support/cells.h"
@@ -21,6 +23,8 @@ std::vector<Cell> RowIn(const CScrollBackBuffer& buffer, int i) {
   const Cell* cells = buffer.Row(i, length);
   return std::vector<Cell>(cells, cells + length);
 }
+
+int64_t NoMemory() { return 0; }
 
 size_t BytesInUse() {
   const struct mallinfo2 info = mallinfo2();
@@ -102,6 +106,51 @@ TEST(ScrollBackBuffer, IsAsAPlainListOfRowsUnderAnyUse) {
     ASSERT_TRUE(RowIn(buffer, static_cast<int>(any)) == rows[any]) << step;
   }
   EXPECT_EQ(buffer.Count(), static_cast<int>(rows.size()));
+}
+
+TEST(ScrollBackBuffer, TheOldestRowsMakeRoomWhereMemoryIsShort) {
+  CScrollBackBuffer buffer(NoMemory);
+  for (int i = 0; i < 10000; ++i) {
+    Append(buffer, RowOf(8, i));
+    ASSERT_GE(buffer.Count(), std::min(i + 1, 1024));  // or there were nothing to look back at
+    ASSERT_TRUE(RowIn(buffer, buffer.Count() - 1) == RowOf(8, i)) << i;
+  }
+  EXPECT_LE(buffer.Count(), 2 * 1024);
+  for (int i = 0; i < buffer.Count(); ++i)
+    EXPECT_TRUE(RowIn(buffer, i) == RowOf(8, 10000 - buffer.Count() + i)) << i;
+  buffer.RemoveLast(3);
+  EXPECT_TRUE(RowIn(buffer, buffer.Count() - 1) == RowOf(8, 9996));
+}
+
+TEST(ScrollBackBuffer, WhatIsThereStaysWhenMemoryGetsShort) {
+  static int64_t left;
+  left = INT64_MAX;
+  CScrollBackBuffer buffer([] { return left; });
+  for (int i = 0; i < 5 * 1024; ++i) Append(buffer, RowOf(8, i));
+  EXPECT_EQ(buffer.Count(), 5 * 1024);
+  left = 0;
+  for (int i = 5 * 1024; i < 9 * 1024; ++i) Append(buffer, RowOf(8, i));
+  EXPECT_EQ(buffer.Count(), 5 * 1024);
+  EXPECT_TRUE(RowIn(buffer, 0) == RowOf(8, 4 * 1024));
+  left = INT64_MAX;
+  for (int i = 0; i < 1024; ++i) Append(buffer, RowOf(8, i));
+  EXPECT_EQ(buffer.Count(), 6 * 1024);
+}
+
+// 800 megabytes of rows where less than 512 may be had. Not in this process: its
+// limit would hold for all tests that follow.
+TEST(ScrollBackBuffer, AFloodDoesNotEndAProcessOfLittleMemory) {
+  if (BytesInUse() == 0) GTEST_SKIP() << "the allocator takes all addresses there are";
+  const auto flood = [] {
+    const rlimit limit{rlim_t{512} << 20, rlim_t{512} << 20};
+    setrlimit(RLIMIT_AS, &limit);
+    CScrollBackBuffer buffer;
+    const std::vector<Cell> row = RowOf(200, 'a');
+    for (int i = 0; i < 800000; ++i) Append(buffer, row);
+    const bool isKept = buffer.Count() > 100000;
+    std::exit(isKept ? 0 : 1);
+  };
+  EXPECT_EXIT(flood(), testing::ExitedWithCode(0), "");
 }
 
 TEST(ScrollBackBuffer, CostsLittleMoreThanItsCells) {

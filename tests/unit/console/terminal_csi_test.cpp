@@ -273,7 +273,12 @@ TEST_F(TerminalCsi, RepeatingWrapsAndIsBounded) {
   EXPECT_EQ(Row(5), "xxxx");
   EXPECT_EQ(Row(4), std::string(20, 'x'));
   EXPECT_EQ(Cursor(), "4,5");
-  EXPECT_LE(KeptRows(), 2);
+  EXPECT_LE(KeptRows(), 2 * rows);
+}
+
+TEST_F(TerminalCsi, RepeatingEmptiesARegionItScrollsFromBelow) {
+  ExpectRows("\033[2;4rx\033[239b", "xxxxxxxxxxxxxxxxxxxx||||xxxxxxxxxxxxxxxxxxxx|xxxxxxxxxxxxxxxxxxxx|");
+  ExpectRows("\033[2;4rx\033[999999b", "xxxxxxxxxxxxxxxxxxxx||||xxxxxxxxxxxxxxxxxxxx|xxxxxxxxxxxxxxxxxxxx|");
 }
 
 TEST_F(TerminalCsi, InsertModeMovesTheRowRight) {

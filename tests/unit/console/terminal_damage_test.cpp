@@ -134,3 +134,21 @@ TEST(TerminalDamage, ThePictureIsTrueAfterAnyChanges) {
     }
   }
 }
+
+TEST(TerminalDamage, AScreenOfAnotherSizeOwesNothingAndIsNotedInFull) {
+  TerminalDamage damage(kColumns, kRows);
+  damage.Changed(kAll);
+  damage.Scrolled(kAll, 2);
+  damage.SetSize(kColumns, kRows);
+  EXPECT_FALSE(damage.IsEmpty());
+  constexpr CellRect kLarger{0, 0, 2 * kColumns - 1, 3 * kRows - 1};
+  damage.SetSize(2 * kColumns, 3 * kRows);
+  EXPECT_TRUE(damage.IsEmpty());
+  EXPECT_EQ(damage.OwedMove().lines, 0);
+  damage.Changed(kLarger);
+  EXPECT_EQ(damage.Blocks(), std::vector<CellRect>{kLarger});
+  damage.Scrolled(kLarger, -1);
+  damage.SetSize(2, 1);
+  damage.Changed(kLarger);
+  EXPECT_EQ(damage.Blocks(), (std::vector<CellRect>{{0, 0, 1, 0}}));
+}

@@ -68,8 +68,15 @@ TEST_F(TerminalEscape, ATitleIsSkippedUpToAnEscapeWithABackslash) {
   EXPECT_EQ(Row(0), "abc");
 }
 
+TEST_F(TerminalEscape, ALongTitleIsSkippedWhole) {
+  const std::string output = "a\033]52;c;" + std::string(200000, 'Q') + "\ab";
+  const TerminalResult whole = RunTerminal(output, 20, 6);
+  EXPECT_EQ(TextOf(&whole.At(0, 0), 20), "ab");
+  EXPECT_EQ(whole.y, 0);
+}
+
 TEST_F(TerminalEscape, ATitleWithoutAnEndGivesWayToText) {
-  const std::string title(4096, 't');
+  const std::string title(1 << 20, 't');
   PlainScreen screen(20, 6);
   CTerminal terminal(screen, -1);
   const std::string output = "\033]" + title + "ab";

@@ -27,6 +27,43 @@ constexpr Sent kOthers[] = {
     {0x10085, "\033[23~"}, {0x10086, "\033[24~"}, {0x10101, "\b"},
 };
 
+// A child that does not read, on a line that is not edited: an edited one swallows
+// all that is too much.
+class StuckChild {
+ public:
+  StuckChild() {
+    EXPECT_EQ(openpty(&master, &slave, nullptr, nullptr, nullptr), 0);
+    termios modes;
+    tcgetattr(slave, &modes);
+    cfmakeraw(&modes);
+    tcsetattr(slave, TCSANOW, &modes);
+  }
+  ~StuckChild() {
+    close(master);
+    close(slave);
+  }
+
+  // Ends only if a write that the child has no room for comes back.
+  void Fill(CTerminal& terminal) {
+    pollfd state{master, POLLOUT, 0};
+    int sent = 0;
+    while (sent < 200000 && poll(&state, 1, 0) == 1 && (state.revents & POLLOUT) != 0) {
+      terminal.SendKey(kCtrlPageUp);
+      ++sent;
+    }
+    EXPECT_LT(sent, 200000);
+    for (int i = 0; i < 1000; ++i) terminal.SendKey(kCtrlPageUp);
+  }
+
+  // Some of what there is to read, when there is something.
+  std::string Read() const {
+    char bytes[4096];
+    return std::string(bytes, static_cast<size_t>(read(slave, bytes, sizeof bytes)));
+  }
+
+  int master = -1, slave = -1;
+};
+
 }  // namespace
 
 class TerminalKeys : public TerminalTest {
@@ -91,24 +128,34 @@ TEST_F(TerminalKeys, AllOtherCodesSendNothing) {
 }
 
 TEST_F(TerminalKeys, AChildThatReadsNothingHoldsUpNobody) {
-  int master = -1, slave = -1;
-  ASSERT_EQ(openpty(&master, &slave, nullptr, nullptr, nullptr), 0);
-  termios modes;
-  tcgetattr(slave, &modes);
-  cfmakeraw(&modes);  // a line that is edited swallows all that is too much
-  tcsetattr(slave, TCSANOW, &modes);
-  CTerminal stuck(screen, master);
-  pollfd state{master, POLLOUT, 0};
-  int sent = 0;
-  // Ends only if a write that the other side has no room for comes back.
-  while (sent < 200000 && poll(&state, 1, 0) == 1 && (state.revents & POLLOUT) != 0) {
-    stuck.SendKey(kCtrlPageUp);
-    ++sent;
+  StuckChild child;
+  CTerminal terminal(screen, child.master);
+  child.Fill(terminal);
+}
+
+TEST_F(TerminalKeys, AChildThatReadsAgainGetsWholeKeysOnly) {
+  const std::string key = "\033[5;5~";
+  for (size_t shift = 0; shift < key.size(); ++shift) {
+    StuckChild child;
+    CTerminal terminal(screen, child.master);
+    for (size_t i = 0; i < shift; ++i) terminal.SendKey('.');
+    child.Fill(terminal);
+    std::string got;
+    do {
+      got += child.Read();
+      terminal.SendKey('x');
+    } while (got.back() != 'x');
+    size_t at = shift;
+    while (got.compare(at, key.size(), key) == 0) at += key.size();
+    EXPECT_EQ(got.find_first_not_of('x', at), std::string::npos) << shift;
   }
-  EXPECT_LT(sent, 200000);
-  for (int i = 0; i < 1000; ++i) stuck.SendKey(kCtrlPageUp);
-  close(master);
-  close(slave);
+}
+
+TEST_F(TerminalKeys, TellsWhichCodesSendSomething) {
+  for (Key code = 0; code < 256; ++code) EXPECT_TRUE(SendsBytes(code)) << code;
+  for (const Sent& row : kCursorKeys) EXPECT_TRUE(SendsBytes(row.key)) << row.key;
+  for (const Sent& row : kOthers) EXPECT_TRUE(SendsBytes(row.key)) << row.key;
+  for (const Key code : {Key{0x100}, Key{0x20AC}, kModifierKey, Key{0x30054}}) EXPECT_FALSE(SendsBytes(code));
 }
 
 TEST_F(TerminalKeys, AFailedWriteIsIgnored) {

@@ -79,6 +79,19 @@ TEST_F(TerminalModes, ATerminalThatEndsLeavesItsAlternateScreen) {
   EXPECT_TRUE(AllCells(screen.picture) == AllCells(screen.grid));
 }
 
+TEST_F(TerminalModes, ATerminalThatEndsInItsAlternateScreenPutsTheCursorBack) {
+  PlainScreen screen(20, 6);
+  {
+    CTerminal terminal(screen, -1);
+    const std::string output = "\033[4;3H\033[?47h\033[2;5H\0337other";  // saves another place as well
+    terminal.Write(output.data(), static_cast<int>(output.size()));
+  }
+  int x = -1, y = -1;
+  screen.GetCursor(x, y);
+  EXPECT_EQ(x, 2);
+  EXPECT_EQ(y, 3);
+}
+
 TEST_F(TerminalModes, TheRegionIsTheSameOnBothScreens) {
   Show("\033[2;3r\033[?47h\033[2Hb\033[3Hc\033[4Hd\033[3H\n");
   EXPECT_EQ(Rows(), "|c||d|");

@@ -1,7 +1,9 @@
 // Which program a command line begins with.
 #include <gtest/gtest.h>
 
+#include "shell/shell_quote.h"
 #include "shell/spawn.h"
+#include "unit/shell/awkward_names.h"
 
 TEST(CommandWords, ABackslashEscapesWhatFollows) {
   EXPECT_EQ(FindUnescaped(L"a b", L' '), 1);
@@ -38,6 +40,27 @@ TEST(CommandWords, APipeEndsTheFirstWordAndTheShellStillGetsAllOfIt) {
   EXPECT_STREQ(words.command.Text(), L"a|b");
   EXPECT_STREQ(SplitCommand(L"a b|c").program.Text(), L"a");
   EXPECT_STREQ(SplitCommand(L"a|b c").program.Text(), L"a");
+}
+
+TEST(CommandWords, OfTheBlanksAroundACommandAnEscapedOneStays) {
+  EXPECT_STREQ(TrimCommand(L" \t\n ls -l \r\f\v").Text(), L"ls -l");
+  EXPECT_STREQ(TrimCommand(L"\\ a\\  ").Text(), L"\\ a\\ ");
+  EXPECT_STREQ(TrimCommand(L"a\\\\ ").Text(), L"a\\\\");
+  EXPECT_STREQ(TrimCommand(L"\x3000 a\x3000 ").Text(), L"\x3000 a\x3000");
+  EXPECT_STREQ(TrimCommand(L" \t ").Text(), L"");
+  EXPECT_STREQ(TrimCommand(L"").Text(), L"");
+}
+
+TEST(CommandWords, AnyQuotedNameIsReadAsItIs) {
+  std::vector<std::wstring> names = AwkwardNames();
+  for (const std::wstring& name : RandomNames(500)) names.push_back(name);
+  names.push_back(L"\x3000wide\x3000");
+  for (const std::wstring& name : names) {
+    const Westring quoted = ShellQuote(name.c_str());
+    EXPECT_EQ(Unescape(SplitCommand(L"$view  " + quoted + L" ").arguments).Text(), name);
+    EXPECT_EQ(Unescape(SplitCommand(L"$view " + quoted + L" &").arguments).Text(), name);
+    EXPECT_EQ(SplitCommand(L"#" + quoted + L" x").program.Text(), name);
+  }
 }
 
 TEST(CommandWords, AHashForcesTheTerminalAndAnAmpersandSendsAway) {

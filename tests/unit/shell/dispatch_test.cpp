@@ -73,6 +73,15 @@ TEST_F(Dispatch, MovingInTheListAndEscapeEndTheQuickSearch) {
   }
 }
 
+TEST_F(Dispatch, TheRootsMenuCommandEndsTheQuickSearchAsItsKeyDoes) {
+  CopyText(panel.path, L"/");
+  for (Key key : {kCtrlBackslash, kAltBackslash}) {
+    CopyText(panel.quickSearch, L"f0");
+    Press(key);
+    EXPECT_STREQ(panel.quickSearch, L"") << std::hex << key;
+  }
+}
+
 TEST_F(Dispatch, EscapeWithControlInsertsTheLeftPath) {
   CopyText(panel.path, L"/left");
   SetLine(L"x|");

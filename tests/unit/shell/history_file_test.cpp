@@ -23,6 +23,27 @@ std::string Numbered(const std::string& text, int from, int to, const std::strin
   return lines;
 }
 
+// No file grows over a size, as on a disk that has no more room.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t size) {
+    if (getrlimit(RLIMIT_FSIZE, &old) != 0) abort();
+    oldHandler = signal(SIGXFSZ, SIG_IGN);
+    const rlimit full{size, old.rlim_max};
+    if (setrlimit(RLIMIT_FSIZE, &full) != 0) abort();
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &old);
+    signal(SIGXFSZ, oldHandler);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  rlimit old{};
+  void (*oldHandler)(int) = nullptr;
+};
+
 }  // namespace
 
 // ---- loading
@@ -275,16 +296,28 @@ TEST_F(HistoryFile, AnErrorIsToldOnceUntilItHasGone) {
 
 TEST_F(HistoryFile, OnAFullDiskNoHalfLineStays) {
   WriteFile("one\r\n");
-  rlimit old;
-  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
-  const auto oldHandler = signal(SIGXFSZ, SIG_IGN);
-  const rlimit full{10, old.rlim_max};
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
-  AddCommand(L"a command that does not fit");
-  setrlimit(RLIMIT_FSIZE, &old);
-  signal(SIGXFSZ, oldHandler);
+  {
+    const FullDisk disk(10);
+    AddCommand(L"a command that does not fit");
+  }
   EXPECT_EQ(File(), "one\r\n");
   EXPECT_EQ(told, Strings{"No space left on device|" + home.Path(kFile)});
+}
+
+TEST_F(HistoryFile, OnAFullDiskTheOldFileIsNotReplaced) {
+  const std::string old = Numbered("command ", 1, 9), last = "command 9";
+  WriteFile(old);
+  Options::MaxHist = 8;
+  {
+    const FullDisk disk(10);
+    LoadHistory();
+    EXPECT_EQ(told, Strings{}) << "a file that stays too long is no loss";
+    RemoveCommandFromFile(last.c_str());
+  }
+  EXPECT_EQ(Commands().size(), 8u);
+  EXPECT_EQ(File(), old);
+  EXPECT_EQ(told, Strings{"No space left on device|" + home.Path(kFile)});
+  EXPECT_FALSE(home.Exists(".orvane/orvane.!!!")) << "half a file is left beside it";
 }
 
 // ---- removing

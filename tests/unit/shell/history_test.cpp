@@ -181,3 +181,13 @@ TEST_F(History, AfterASearchTheEditedLineIsInTheRing) {
   SearchByPrefix(shell, true);
   EXPECT_EQ(Older(), L"ma|");
 }
+
+TEST_F(History, ASearchPastTheEditedLineLeavesItInTheRing) {
+  Add({L"one", L"two"});
+  SetLine(L"half|");
+  Older();
+  Older();
+  SetLine(L"tw|");
+  EXPECT_TRUE(SearchByPrefix(shell, true));
+  EXPECT_EQ(Newer(), L"half|");
+}

@@ -90,6 +90,50 @@ TEST_F(OwnCommands, CdTellsItsTargetAndLeavesTheReadToItsCaller) {
   EXPECT_FALSE(panels[0].readPending);
 }
 
+TEST_F(OwnCommands, CdSkipsTheBlanksInFrontAndNotThoseOfTheName) {
+  files.MakeDirectory("\xE3\x80\x80wide\xE3\x80\x80");
+  EXPECT_EQ(Call(L"cd   \x3000wide\x3000"), 0);
+  EXPECT_EQ(Path(0), files.Path("\xE3\x80\x80wide\xE3\x80\x80"));
+}
+
+namespace {
+
+// A tree that knows of one directory by another name.
+class KnownToTheTree {
+ public:
+  KnownToTheTree(TPanel& panel, const std::string& path) {
+    panel.tree = reinterpret_cast<Tree*>(this);  // nobody looks into it
+    known = path;
+    ThePanelHooks.findInTree = [](const TPanel&, const Westring& typed, Westring& found) {
+      if (typed != L"b/elsewhere") return false;
+      found = Westring(known.c_str());
+      return true;
+    };
+  }
+  ~KnownToTheTree() { ThePanelHooks.findInTree = nullptr; }
+
+ private:
+  static inline std::string known;
+};
+
+}  // namespace
+
+TEST_F(OwnCommands, CdToWhatIsNotThereGoesWhereTheTreeOfThePanelLeads) {
+  const KnownToTheTree tree(panels[0], files.Path("a/b"));
+  Westring target;
+  EXPECT_EQ(RunCd(L"cd b\\\\elsewhere", 0, target), 0);
+  EXPECT_EQ(ToUtf8(target).Text(), files.Path("a/b"));
+  EXPECT_EQ(Path(0), files.Path("a/b"));
+}
+
+TEST_F(OwnCommands, CdAsksTheTreeOnlyForWhatIsNotThere) {
+  const KnownToTheTree tree(panels[0], files.Path("a/b"));
+  files.MakeDirectory("b/elsewhere");
+  Westring target;
+  EXPECT_EQ(RunCd(L"cd b/elsewhere", 0, target), 0);
+  EXPECT_EQ(Path(0), files.Path("b/elsewhere"));
+}
+
 TEST_F(OwnCommands, SetSplitsAtTheFirstEqualsSign) {
   EXPECT_EQ(Call(L"set NAME=a=b "), 0);
   EXPECT_STREQ(Variables.Get("NAME"), "a=b");

@@ -2,9 +2,15 @@
 #include "shell/temp_names.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <set>
+#include <thread>
+#include <vector>
+
 #include "foundation/environment.h"
+#include "shell/list_file.h"
 #include "unit/scratch_directory.h"
 
 namespace {
@@ -29,6 +35,19 @@ class TempNames : public testing::Test {
     MakeTempName(name, directory.c_str());
     return ToUtf8(name).Text();
   }
+
+  // False if a file was gone before its time, or stayed.
+  static bool MakeAndRemoveMany() {
+    for (int i = 0; i < 200; ++i) {
+      Westring first, second;
+      if (WriteListFile("1", first) != 0 || WriteListFile("2", second) != 0) return false;
+      if (!IsThere(first) || !IsThere(second)) return false;
+      RemoveTempFiles();
+      if (IsThere(first) || IsThere(second)) return false;
+    }
+    return true;
+  }
+  static bool IsThere(const Westring& path) { return access(ToUtf8(path).Text(), F_OK) == 0; }
 
   ScratchDirectory files;
 };
@@ -82,6 +101,39 @@ TEST_F(TempNames, RemovingLeavesAllElse) {
   RemoveTempFiles();
   for (const std::string& other : others) EXPECT_TRUE(files.Exists(other)) << other;
   EXPECT_TRUE(files.Exists(Name(".5")));
+}
+
+TEST_F(TempNames, CopiesThatRunAtOnceLeaveEachOthersFiles) {
+  const pid_t other = fork();
+  ASSERT_GE(other, 0);
+  const bool isWell = MakeAndRemoveMany();
+  if (other == 0) _exit(isWell ? 0 : 1);
+  int status = -1;
+  ASSERT_EQ(waitpid(other, &status, 0), other);
+  EXPECT_TRUE(isWell);
+  EXPECT_EQ(status, 0);
+}
+
+// As copies do whose numbers have the same low half.
+TEST_F(TempNames, MakersUnderOneNumberNeverGetTheSameFile) {
+  constexpr int kEach = 100;
+  std::vector<std::string> made[2];
+  const auto make = [&made](int maker) {
+    for (int i = 0; i < kEach; ++i) {
+      Westring path;
+      if (WriteListFile(std::to_string(maker), path) == 0) made[maker].push_back(ToUtf8(path).Text());
+    }
+  };
+  std::thread other(make, 1);
+  make(0);
+  other.join();
+  std::set<std::string> names;
+  for (int maker : {0, 1})
+    for (const std::string& path : made[maker]) {
+      names.insert(path);
+      EXPECT_EQ(files.Content(path.substr(files.Path().size() + 1)), std::to_string(maker));
+    }
+  EXPECT_EQ(names.size(), 2u * kEach);
 }
 
 TEST_F(TempNames, CharactersOfPatternsInTheDirectoryMeanNothing) {
