@@ -19,7 +19,7 @@ namespace {
 
 bool NormaliseHere(const Westring& path, Westring& result) {
   const bool absolute = path[0] == L'/';
-  return NormalisePath(path, absolute ? Westring() : CurrentDirectory(), result);
+  return NormalisePath(path, absolute ? Westring() : CurrentDirectory(), result, kLongestPath);
 }
 
 // True where the components of outer are the first ones of path.

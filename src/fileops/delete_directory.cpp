@@ -103,7 +103,7 @@ int DeleteEmptyDirectory(FileOperation& operation, const DoomedObject& object, b
 int DeleteDirectory(FileOperation& operation, const Westring& path, const Westring& mask) {
   if (wcscmp(path.Text(), L"..") == 0) return 0;
   Westring normal;
-  if (!NormalisePath(path, CurrentDirectory(), normal)) {
+  if (!NormalisePath(path, CurrentDirectory(), normal, kLongestPath)) {
     operation.Ask(L"Directory does not exist, cannot delete", path, kPromptOk);
     return 0;
   }

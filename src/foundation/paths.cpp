@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr int kLongestPath = 511;
 constexpr wchar_t kCutMark = 16;  // a triangle that points to the right
 
 struct Component {
@@ -54,7 +53,7 @@ bool Stat(const Westring& path, struct stat& status) { return stat(ToUtf8(path).
 
 }  // namespace
 
-bool NormalisePath(const Westring& path, const Westring& base, Westring& result) {
+bool NormalisePath(const Westring& path, const Westring& base, Westring& result, int longest) {
   if (path.IsEmpty()) return false;
   const bool absolute = path[0] == L'/';
   const wchar_t* start = absolute ? path.Text() : base.Text();
@@ -67,7 +66,7 @@ bool NormalisePath(const Westring& path, const Westring& base, Westring& result)
   int64_t length = network ? 2 : 1;
   for (const Component& component : components) length += component.length + 1;
   if (!components.empty()) length--;
-  if (length > kLongestPath) return false;
+  if (length > longest) return false;
 
   Westring normal = Westring::Reserved(static_cast<int>(length));
   if (network) normal += L'/';

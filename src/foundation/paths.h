@@ -3,12 +3,15 @@
 
 #include "foundation/strings.h"
 
+// In characters: what a panel can show, and what the system takes at most.
+constexpr int kLongestPanelPath = 511, kLongestPath = 4095;
+
 // Makes path absolute against base (itself absolute) and removes "." and ".."
 // components and doubled slashes; a leading "//" keeps its two slashes. ".."
 // at the root stays at the root. No symbolic link is followed. Returns false,
-// with result untouched, for an empty path, or one over 511 characters when
-// done.
-bool NormalisePath(const Westring& path, const Westring& base, Westring& result);
+// with result untouched, for an empty path, or one over longest when done.
+bool NormalisePath(const Westring& path, const Westring& base, Westring& result,
+                   int longest = kLongestPanelPath);
 
 // directory + "/" + name, without doubling the slash.
 Westring JoinPath(const Westring& directory, const Westring& name);

@@ -72,15 +72,18 @@ TEST_F(CopyDirectoryTest, ANameThatContinuesTheSourcesIsNoPlaceInIt) {
 }
 
 TEST_F(CopyDirectoryTest, TwoHundredLevelsAreCopiedAndMoved) {
-  std::string deep;
-  for (int i = 0; i < 200; ++i) deep += "/d";
-  files.MakeDirectory("s" + deep);
-  files.Write("s" + deep + "/file", "bottom");
-  EXPECT_EQ(Copy("s", "t"), 0);
-  EXPECT_EQ(files.Content("t" + deep + "/file"), "bottom");
-  EXPECT_EQ(Move("s", "m"), 0);
-  EXPECT_EQ(files.Content("m" + deep + "/file"), "bottom");
-  EXPECT_FALSE(files.Exists("s"));
+  for (const std::string name : {"/d", "/a directory"}) {
+    std::string deep;
+    for (int i = 0; i < 200; ++i) deep += name;
+    files.MakeDirectory("s" + deep);
+    files.Write("s" + deep + "/file", "bottom");
+    EXPECT_EQ(Copy("s", "t"), 0);
+    EXPECT_EQ(files.Content("t" + deep + "/file"), "bottom");
+    Fault otherDevice(kCallRename, {.path = files.Path("s"), .times = kEveryCall, .code = EXDEV});
+    EXPECT_EQ(Move("s", "m"), 0);
+    EXPECT_EQ(files.Content("m" + deep + "/file"), "bottom");
+    EXPECT_FALSE(files.Exists("s"));
+  }
 }
 
 TEST_F(CopyDirectoryTest, NamesOfAllKindsArrive) {

@@ -70,6 +70,14 @@ TEST(NormalisePath, OnlyTheLengthWhenDoneCounts) {
   EXPECT_EQ(Normal(winding.c_str()), "/a");
 }
 
+TEST(NormalisePath, TheLengthThatIsTakenMayBeAnother) {
+  const Westring path = L"/" + Westring::Replicate(L'x', kLongestPanelPath);
+  Westring result;
+  EXPECT_FALSE(NormalisePath(path, L"/", result));
+  EXPECT_TRUE(NormalisePath(path, L"/", result, kLongestPanelPath + 1));
+  EXPECT_FALSE(NormalisePath(path, L"/", result, kLongestPanelPath));
+}
+
 TEST(NormalisePath, ResultMayBeAnArgument) {
   Westring path("../x");
   ASSERT_TRUE(NormalisePath(path, Westring("/a/b"), path));
