@@ -75,11 +75,17 @@ int CopyNames(CopyJob& job, DirectoryNames& names) {
   return failed ? kSkipped : 0;
 }
 
-// What came into the directory since its names were read has not been copied.
+bool IsDescriptionsFile(const DirectoryNames& names, const char* name) {
+  struct stat status;
+  return strcasecmp(name, "descript.ion") == 0 && names.Look(name, status) && S_ISREG(status.st_mode);
+}
+
+// What came into the directory since its names were read has not been copied, nor
+// has what only has the name of the descriptions.
 int RemoveMoved(CopyJob& job, DirectoryNames& names) {
   if (const int code = names.Read(job.sourcePath)) return code;
   while (const char* name = names.Next())
-    if (strcasecmp(name, "descript.ion") != 0) return ENOTEMPTY;
+    if (!IsDescriptionsFile(names, name)) return ENOTEMPTY;
   const int result = DeleteDirectory(job.operation, job.sourcePath);
   if (result < 0) return kStopCommand;
   return result > 0 ? 0 : kSkipped;

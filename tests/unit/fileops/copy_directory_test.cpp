@@ -174,6 +174,13 @@ TEST_F(CopyDirectoryTest, ATreeMovesToAnotherFileSystemAsWell) {
   EXPECT_TRUE(files.Exists("target/sub/empty"));
 }
 
+TEST_F(CopyDirectoryTest, ADirectoryNamedLikeTheDescriptionsKeepsTheSourceOfAMove) {
+  Make({{"source/a", "one"}, {"source/descript.ion/inside", "kept"}});
+  EXPECT_EQ(Move(), ENOTEMPTY);
+  EXPECT_EQ(files.Content("target/a"), "one");
+  EXPECT_EQ(files.Content("source/descript.ion/inside"), "kept");
+}
+
 TEST_F(CopyDirectoryTest, SkippedItemsKeepTheSourceOfAMove) {
   Make({{"source/a", "one"}, {"source/b", "two"}, {"target/b", "other"}});
   operation.overwriteMode = kOverwriteNever;
