@@ -75,15 +75,16 @@ void RemovePartial(const CopyJob& job, const CopyTarget& target) {
   if (!target.isDevice && IsInPlace(job, target)) DeleteFile(job.operation, job.targetPath, kDeleteAnyway);
 }
 
-// The copied state of the source is still what its name leads to. One that has
-// gone is no concern: the target has all of it.
-int CheckSource(const CopyJob& job, const struct stat& copied, int64_t size) {
-  if (!S_ISREG(copied.st_mode)) return 0;
+// The name of the source still leads to what was opened, and nobody has written
+// to it since: that may have been behind where the copy was. One that has gone
+// is no concern: the target has all of it.
+int CheckSource(const CopyJob& job, int64_t size) {
+  if (!S_ISREG(job.status.st_mode)) return 0;
   struct stat now;
   if (lstat(job.source.Text(), &now) != 0) return errno == ENOENT ? 0 : errno;
-  const bool same = IsSameObject(now, copied) && now.st_size == size &&
-                    now.st_mtim.tv_sec == copied.st_mtim.tv_sec &&
-                    now.st_mtim.tv_nsec == copied.st_mtim.tv_nsec;
+  const timespec &modified = now.st_mtim, &before = job.status.st_mtim;
+  const bool same = IsSameObject(now, job.status) && now.st_size == size &&
+                    modified.tv_sec == before.tv_sec && modified.tv_nsec == before.tv_nsec;
   return same ? 0 : EBUSY;
 }
 
@@ -108,7 +109,7 @@ int CopyInto(const CopyJob& job, const Descriptor& source, const CopyTarget& tar
   if (code == 0) code = modeCode;
   if (code != 0 || !job.isMove) return code;
   if (!target.isDevice) code = CheckTarget(job, target, bytes.Copied());
-  return code == 0 ? CheckSource(job, copied, bytes.Copied()) : code;
+  return code == 0 ? CheckSource(job, bytes.Copied()) : code;
 }
 
 }  // namespace

@@ -270,6 +270,21 @@ TEST_F(CopyFileTest, ASourceThatWasWrittenBehindTheCopyIsNotDeleted) {
   EXPECT_FALSE(files.Exists("target"));
 }
 
+TEST_F(CopyFileTest, ASourceThatWasWrittenDuringTheCopyIsNotDeleted) {
+  files.Write("source", Bytes(100000));
+  const timespec old[2] = {{1000, 0}, {1000, 0}};
+  utimensat(AT_FDCWD, files.Path("source").c_str(), old, 0);
+  Fault noKernel(kCallKernelCopy, {.path = files.Path(), .times = kEveryCall, .code = EXDEV});
+  Fault changes(kCallRead, Before("source", 2, [&] {
+                  const int fd = open(files.Path("source").c_str(), O_WRONLY);
+                  EXPECT_EQ(pwrite(fd, "changed", 7, 0), 7);
+                  close(fd);
+                }));
+  EXPECT_EQ(Move(), EBUSY);
+  EXPECT_EQ(Content("source").substr(0, 7), "changed");
+  EXPECT_FALSE(files.Exists("target"));
+}
+
 TEST_F(CopyFileTest, ASourceThatAnotherFileReplacedIsNotDeleted) {
   files.Write("source", "first");
   files.Write("other", "other");
