@@ -55,10 +55,11 @@ int ByteCopy::CopySegments(int64_t size) {
     positioned = false;
     if (data < 0 && errno != ENXIO) return CopyRange(size);  // holes are not told here
     if (data < 0) {
-      // Nothing but a hole up to the end, which may have come nearer.
+      // Nothing but a hole up to the end, which may have come nearer. What is
+      // behind the end as it was need not be a hole.
       struct stat now;
       if (fstat(from, &now) != 0) return errno;
-      SkipTo(now.st_size);
+      SkipTo(std::min<int64_t>(now.st_size, size));
       return 0;
     }
     SkipTo(data);

@@ -105,6 +105,21 @@ TEST_F(CopySparseTest, WhatIsAddedBehindTheLastHoleArrives) {
   ExpectSameWithHoles();
 }
 
+TEST_F(CopySparseTest, WhatIsAddedWhileTheLastHoleIsLookedForArrives) {
+  Make(10 * kMega, {{0, "start"}});
+  if (IsSkipped()) return;
+  // Between the answer that there is no more data and the look at the size.
+  Fault grows(kCallSeek, {.path = files.Path("source"), .at = 3, .code = ENXIO, .before = [&] {
+                            const int fd = open(files.Path("source").c_str(), O_WRONLY | O_APPEND);
+                            EXPECT_EQ(write(fd, "more", 4), 4);
+                            close(fd);
+                          }});
+  EXPECT_EQ(Copy(), 0);
+  EXPECT_GE(grows.Calls(), 3);
+  EXPECT_EQ(Status("target").st_size, 10 * kMega + 4);
+  ExpectSameWithHoles();
+}
+
 TEST_F(CopySparseTest, ASizeThatCannotBeSetLeavesNoTarget) {
   Make(10 * kMega, {{0, "start"}});
   if (IsSkipped()) return;
