@@ -7,8 +7,10 @@
 
 #include <cerrno>
 #include <climits>
+#include <string>
 
 #include "fileops/copy_job.h"
+#include "fileops/copy_progress.h"
 #include "fileops/file_error.h"
 
 bool IsSameObject(const struct stat& a, const struct stat& b) {
@@ -17,15 +19,24 @@ bool IsSameObject(const struct stat& a, const struct stat& b) {
 
 namespace {
 
+// 0 or errno.
+int ReadLink(const Estring& path, std::string& text) {
+  char buffer[PATH_MAX];
+  const ssize_t length = readlink(path.Text(), buffer, sizeof buffer);
+  if (length < 0) return errno;
+  text.assign(buffer, static_cast<size_t>(length));
+  return 0;
+}
+
 // The same text at the new place, whatever it leads to there. A link without a
 // text counts as copied.
 int CopyLink(CopyJob& job) {
-  char text[PATH_MAX];
-  const ssize_t length = readlink(job.source.Text(), text, sizeof text - 1);
-  if (length <= 0) return 0;
-  text[length] = 0;
-  if (symlink(text, job.target.Text()) != 0) return errno;
-  if (job.isMove) unlink(job.source.Text());
+  std::string text, now;
+  if (const int code = ReadLink(job.source, text)) return code;
+  if (text.empty()) return 0;
+  if (symlink(text.c_str(), job.target.Text()) != 0) return errno;
+  // What has taken the link's place meanwhile has not been copied.
+  if (job.isMove && ReadLink(job.source, now) == 0 && now == text) unlink(job.source.Text());
   return 0;
 }
 
@@ -41,6 +52,7 @@ int CopyAndTell(CopyJob& job) {
   for (;;) {
     int code = CopyObject(job);
     if (code != EIO || job.told || !WantsRetry(job.operation, code, job.sourcePath)) return code;
+    if (job.operation.progress) job.operation.progress->Start();  // the question has stopped it
   }
 }
 

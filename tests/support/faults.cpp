@@ -203,6 +203,16 @@ int mkdir(const char* path, mode_t mode) noexcept {
   return FailsOn(kCallMakeDirectory, path) ? -1 : next(path, mode);
 }
 
+int symlink(const char* text, const char* path) noexcept {
+  static auto* const next = Library<int(const char*, const char*)>("symlink");
+  return FailsOn(kCallMakeLink, path) ? -1 : next(text, path);
+}
+
+ssize_t readlink(const char* path, char* text, size_t size) noexcept {
+  static auto* const next = Library<ssize_t(const char*, char*, size_t)>("readlink");
+  return FailsOn(kCallReadLink, path) ? -1 : next(path, text, size);
+}
+
 int usleep(useconds_t time) {
   static auto* const next = Library<int(useconds_t)>("usleep");
   return FailsOn(kCallSleep, "") ? -1 : next(time);

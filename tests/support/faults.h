@@ -30,6 +30,8 @@ enum FaultCall {
   kCallUnlink,  // also unlinkat, of directories too
   kCallRename,  // also renameat2; by either path
   kCallMakeDirectory,
+  kCallMakeLink,  // symlink, by the link's own path
+  kCallReadLink,
   kCallSleep,  // usleep, of no file; one that fails takes no time
 };
 

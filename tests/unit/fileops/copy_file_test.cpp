@@ -207,6 +207,23 @@ TEST_F(CopyFileTest, AMovedLinkLeavesItsOldPlace) {
   EXPECT_TRUE(S_ISLNK(Status("target").st_mode));
 }
 
+TEST_F(CopyFileTest, WhatTakesAMovedLinksPlaceStays) {
+  ASSERT_EQ(symlink("anywhere", files.Path("source").c_str()), 0);
+  Fault changes(kCallMakeLink, Before("target", 1, [&] {
+                  unlink(files.Path("source").c_str());
+                  files.Write("source", "somebody's");
+                }));
+  EXPECT_EQ(Move(), 0);
+  EXPECT_EQ(files.Content("source"), "somebody's");
+}
+
+TEST_F(CopyFileTest, ALinkThatCannotBeReadIsTold) {
+  ASSERT_EQ(symlink("anywhere", files.Path("source").c_str()), 0);
+  Fault fails(kCallReadLink, About("source", 1, ESTALE));
+  EXPECT_EQ(Copy(), ESTALE);
+  EXPECT_FALSE(files.Exists("target"));
+}
+
 // ---- moving --------------------------------------------------------------------
 
 TEST_F(CopyFileTest, AMovedFileLeavesItsOldPlace) {
