@@ -1,6 +1,7 @@
 // Copies that fail at a certain call: what is told, and what is on the disk then.
 #include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 
 #include "unit/fileops/copy_fixture.h"
 
@@ -147,6 +148,35 @@ TEST_F(CopyFaultsTest, ALimitOnSizesEndsTheCopyAndNotTheProgram) {
   EXPECT_EQ(moved, EFBIG);
   EXPECT_FALSE(files.Exists("sub/target"));
   ExpectOnlyTheSource("limit");
+}
+
+// The end of the program at any call leaves the one or the other whole. The
+// child's copy of the fault ends it; the parent looks at what is left.
+TEST_F(CopyFaultsTest, AKillAtAnyCallLeavesTheSourceOrTheTargetWhole) {
+  const Fault noKernel(kCallKernelCopy, NoKernelPlan());
+  for (const FaultCall call :
+       {kCallOpen, kCallRead, kCallWrite, kCallSetTime, kCallSetMode, kCallClose, kCallUnlink}) {
+    int ends = 0;
+    for (int at = 1, killed = 1; killed; at = at < 4 ? at + 1 : at * 4, ends += killed) {
+      const pid_t child = fork();
+      ASSERT_GE(child, 0);
+      if (child == 0) {
+        Fault kill(call, {.path = files.Path(), .at = at, .before = [] { _exit(1); }});
+        _exit(Move() == 0 ? 0 : 2);
+      }
+      int status = 0;
+      ASSERT_EQ(waitpid(child, &status, 0), child);
+      ASSERT_TRUE(WIFEXITED(status));
+      killed = WEXITSTATUS(status);
+      ASSERT_LT(killed, 2);
+      const bool sourceIsWhole = Content("source") == bytes, targetIsWhole = Content("target") == bytes;
+      EXPECT_TRUE(sourceIsWhole || targetIsWhole) << "call " << call << " at " << at;
+      EXPECT_TRUE(killed || !files.Exists("source"));
+      files.Write("source", bytes);
+      unlink(files.Path("target").c_str());
+    }
+    EXPECT_GT(ends, 0) << "no such call as " << call;
+  }
 }
 
 TEST_F(CopyFaultsTest, ForceThatFailsLeavesNoHalfOfTheNewContents) {
