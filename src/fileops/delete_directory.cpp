@@ -18,10 +18,11 @@ namespace {
 // would keep it from going. 0 or errno.
 int RemoveIfEmpty(const DoomedObject& object) {
   {
-    DoomedFolder folder{Westring()};
-    if (const int code = folder.Open(object)) return code;
-    if (folder.NextName()) return ENOTEMPTY;
-    if (errno) return errno;
+    DoomedFolder folder(object);
+    if (const int code = folder.Open()) return code;
+    DoomedName first;
+    if (const int code = folder.Next(first)) return code;
+    if (!first.name.empty()) return ENOTEMPTY;
   }
   return object.RemoveDirectory();
 }

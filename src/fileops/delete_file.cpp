@@ -64,7 +64,7 @@ class FileDeletion {
 
   // In a tree somebody else has taken a file that was still listed.
   bool IsGoneAnyway(int code) const {
-    if (object.IsInTree()) return code == ENOENT;
+    if (object.Folder()) return code == ENOENT;
     return mode == kDeleteAnyway && (code == ENOENT || code == ENOTDIR);
   }
 

@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <cwchar>
+#include <deque>
 #include <string>
 #include <utility>
 
@@ -20,19 +21,12 @@
 
 namespace {
 
-// What getting a name told about it.
-struct FoundName {
-  std::string name;  // as the system has it; empty behind the last
-  unsigned char type = DT_UNKNOWN;
-
-  // 0 or errno.
-  int ReadFrom(DoomedFolder& folder) {
-    const dirent* const found = folder.NextName();
-    name = found ? found->d_name : "";
-    type = found ? found->d_type : static_cast<unsigned char>(DT_UNKNOWN);
-    return found ? 0 : errno;
-  }
-};
+// No more folders are open at once, so that no tree uses up what the system lets a
+// process open.
+constexpr size_t kMostOpen = 64;
+// Each level takes some of the stack; no path of a panel leads to the fifth part of
+// them.
+constexpr int kMostLevels = 1500;
 
 // A name that leads back to itself as text. Nearly all are plain ASCII.
 bool IsText(const std::string& name) {
@@ -52,7 +46,7 @@ class TreeDeletion {
     for (;;) {
       const int failure = ClearContents(directory);
       if (failure < 0) return failure;
-      if (failure == ENOENT && directory.IsInTree()) return 0;  // somebody else has taken it
+      if (failure == ENOENT && directory.Folder()) return 0;  // somebody else has taken it
       bool notEmpty = false;
       const int result = DeleteEmptyDirectory(operation, directory, failure == 0, notEmpty);
       if (!notEmpty) return result;
@@ -65,13 +59,49 @@ class TreeDeletion {
  private:
   // Why the directory did not open, 0, or -1.
   int ClearContents(const DoomedObject& directory) {
-    DoomedFolder folder(directory.Path());
-    if (const int code = folder.Open(directory)) return code;
+    if (levels >= kMostLevels) return RefuseLevel(directory);
+    DoomedFolder folder(directory);
+    if (const int code = folder.Open()) return code;
     folder.LookForDescriptions();
+    Enter(folder);
+    const int result = WalkWithRetries(folder);
+    return result < 0 || !Leave(folder) ? kStopCommand : result;
+  }
+
+  // What lies above could not go either, and would be asked for level by level.
+  int RefuseLevel(const DoomedObject& directory) {
+    int code = ENAMETOOLONG;
+    WantsRetry(operation, code, directory.Path());
+    return kStopCommand;
+  }
+
+  void Enter(DoomedFolder& folder) {
+    ++levels;
+    open.push_back(&folder);
+    if (open.size() <= kMostOpen) return;
+    open.front()->Suspend();
+    open.pop_front();
+  }
+
+  // The folder above was suspended if none is left. False where there is no way
+  // back to it. A deletion that stops needs none.
+  bool Leave(DoomedFolder& folder) {
+    --levels;
+    open.pop_back();
+    DoomedFolder* const above = folder.Object().Folder();
+    if (!above || !open.empty()) return true;
+    while (int code = above->Resume(folder))
+      if (!WantsRetry(operation, code, above->Object().Path())) return false;
+    open.push_back(above);
+    return true;
+  }
+
+  // 0 or -1.
+  int WalkWithRetries(DoomedFolder& folder) {
     for (;;) {
       int code = Walk(folder);
       if (code <= 0) return code;
-      if (!WantsRetry(operation, code, folder.path)) return code < 0 ? kStopCommand : 0;
+      if (!WantsRetry(operation, code, folder.Object().Path())) return code < 0 ? kStopCommand : 0;
       folder.Rewind();
     }
   }
@@ -79,17 +109,17 @@ class TreeDeletion {
   // The next name is read before anything happens to the one at hand. 0, -1, or
   // what kept a name from being read.
   int Walk(DoomedFolder& folder) {
-    FoundName current, next;
-    int code = next.ReadFrom(folder);
+    DoomedName current, next;
+    int code = folder.Next(next);
     while (!next.name.empty()) {
       std::swap(current, next);
-      code = next.ReadFrom(folder);
+      code = folder.Next(next);
       if (stop.Stopped() || Delete(folder, current) < 0) return kStopCommand;
     }
     return code;
   }
 
-  int Delete(DoomedFolder& folder, const FoundName& found) {
+  int Delete(DoomedFolder& folder, const DoomedName& found) {
     const DoomedObject object(folder, found.name.c_str());
     if (!IsText(found.name)) return Refuse(object);
     if (IsDirectory(object, found.type)) return Clear(object);
@@ -118,7 +148,7 @@ class TreeDeletion {
   // What can't be looked at, and what an expression in error says, stays.
   bool Matches(const DoomedFolder& folder, const DoomedObject& object) const {
     entry* found = nullptr;
-    if (StatEntry(folder.path, Westring(object.Name()).Text(), found) != 0) return false;
+    if (StatEntry(folder.Object().Path(), Westring(object.Name()).Text(), found) != 0) return false;
     const bool matches = MatchEntry(mask.Text(), *found) > 0;
     FreeEntry(found);
     return matches;
@@ -128,6 +158,8 @@ class TreeDeletion {
   const Westring& mask;
   const bool takesAll;
   BreakScope stop;
+  int levels = 0;
+  std::deque<DoomedFolder*> open;  // the innermost folders, the last one inside all others
 };
 
 constexpr int kConfirmTreeOff = 4;  // in Options::Confirmations

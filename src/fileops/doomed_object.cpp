@@ -5,9 +5,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <cwchar>
+#include <utility>
 
 #include "fileops/descriptions.h"
 #include "foundation/paths.h"
@@ -26,10 +28,14 @@ bool HasDescriptions(int directory, const Estring& path) {
 
 }  // namespace
 
-int DoomedFolder::Open(const DoomedObject& object) {
-  Close();
+int DoomedFolder::Open() {
   int fd = -1;
   if (const int code = object.OpenDirectory(fd)) return code;
+  return Adopt(fd);
+}
+
+int DoomedFolder::Adopt(int fd) {
+  Close();
   stream = fdopendir(fd);
   if (stream) return 0;
   const int code = errno;
@@ -42,60 +48,108 @@ void DoomedFolder::Close() {
   stream = nullptr;
 }
 
-const dirent* DoomedFolder::NextName() {
-  for (;;) {
-    errno = 0;
-    const dirent* const found = readdir(stream);
-    if (!found || !IsDotName(found->d_name)) return found;
+void DoomedFolder::Suspend() {
+  if (!wasSuspended) {
+    struct stat status = {};
+    fstat(Descriptor(), &status);
+    device = status.st_dev;
+    inode = status.st_ino;
+    DoomedName next;
+    while ((restCode = Read(next)) == 0 && !next.name.empty()) rest.push_back(std::move(next));
+    std::reverse(rest.begin(), rest.end());
+    wasSuspended = true;
   }
+  Close();
+}
+
+int DoomedFolder::Resume(const DoomedFolder& below) {
+  const int fd = openat(below.Descriptor(), "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (fd < 0) return errno;
+  struct stat status = {};
+  if (fstat(fd, &status) == 0 && status.st_dev == device && status.st_ino == inode) return Adopt(fd);
+  close(fd);
+  return ENOENT;
+}
+
+int DoomedFolder::Next(DoomedName& next) {
+  if (!wasSuspended) return Read(next);
+  next = DoomedName();
+  if (rest.empty()) return restCode;
+  next = std::move(rest.back());
+  rest.pop_back();
+  return 0;
+}
+
+int DoomedFolder::Read(DoomedName& next) {
+  const dirent* found = nullptr;
+  do {
+    errno = 0;
+    found = readdir(stream);
+  } while (found && IsDotName(found->d_name));
+  next.name = found ? found->d_name : "";
+  next.type = found ? found->d_type : static_cast<unsigned char>(DT_UNKNOWN);
+  return found ? 0 : errno;
+}
+
+void DoomedFolder::Rewind() {
+  rewinddir(stream);
+  wasSuspended = false;
+  rest.clear();
 }
 
 void DoomedFolder::LookForDescriptions() {
   hasDescriptions = HasDescriptions(Descriptor(), ToUtf8(kDescriptionsName));
 }
 
-DoomedObject::DoomedObject(const Westring& path)
-    : bytes(ToUtf8(path)), directory(AT_FDCWD), name(bytes.Text()) {}
+DoomedObject::DoomedObject(const Westring& path) : bytes(ToUtf8(path)), name(bytes.Text()) {}
 
-DoomedObject::DoomedObject(DoomedFolder& parent, const char* rawName)
-    : folder(&parent), directory(parent.Descriptor()), name(rawName) {}
+DoomedObject::DoomedObject(DoomedFolder& parent, const char* rawName) : folder(&parent), name(rawName) {}
 
+// Made when it is shown: that of each level kept would fill the memory in a tree
+// of thousands.
 Westring DoomedObject::Path() const {
-  const Westring text(name);
-  return folder ? JoinPath(folder->path, text) : text;
+  std::vector<const char*> names;
+  const DoomedObject* top = this;
+  for (; top->folder; top = &top->folder->Object()) names.push_back(top->name);
+  std::string path = top->name;
+  for (auto below = names.rbegin(); below != names.rend(); ++below) path.append("/").append(*below);
+  return Westring(path.c_str());
 }
 
+int DoomedObject::Directory() const { return folder ? folder->Descriptor() : AT_FDCWD; }
+
 int DoomedObject::OpenDirectory(int& fd) const {
-  fd = openat(directory, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+  fd = openat(Directory(), name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
   if (fd >= 0) return 0;
   return IsLink() ? ENOTDIR : errno;
 }
 
-int DoomedObject::Access() const { return ErrorOf(faccessat(directory, name, W_OK, 0)); }
+int DoomedObject::Access() const { return ErrorOf(faccessat(Directory(), name, W_OK, 0)); }
 
 int DoomedObject::ParentAccess() const {
-  if (folder) return ErrorOf(faccessat(directory, ".", W_OK, 0));
+  if (folder) return ErrorOf(faccessat(Directory(), ".", W_OK, 0));
   return ErrorOf(access(ToUtf8(ParentPath(Path().Text())).Text(), W_OK));
 }
 
-int DoomedObject::Unlink() const { return ErrorOf(unlinkat(directory, name, 0)); }
+int DoomedObject::Unlink() const { return ErrorOf(unlinkat(Directory(), name, 0)); }
 
 int DoomedObject::RemoveDirectory() const {
-  const int code = ErrorOf(unlinkat(directory, name, AT_REMOVEDIR));
+  const int code = ErrorOf(unlinkat(Directory(), name, AT_REMOVEDIR));
   return code == EEXIST ? ENOTEMPTY : code;  // some systems say it so
 }
 
 bool DoomedObject::IsLink() const {
   const int saved = errno;
   struct stat status;
-  const bool isLink = fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode);
+  const bool isLink =
+      fstatat(Directory(), name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode);
   errno = saved;
   return isLink;
 }
 
 bool DoomedObject::Exists() const {
   struct stat status;
-  return fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) == 0;
+  return fstatat(Directory(), name, &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 void DoomedObject::RemoveDescriptionLine(FileOperation& operation) const {

@@ -4,35 +4,61 @@
 #pragma once
 
 #include <dirent.h>
+#include <sys/types.h>
+
+#include <string>
+#include <vector>
 
 #include "fileops/file_operation.h"
 
 class DoomedObject;
 
+struct DoomedName {
+  std::string name;  // as the system has it; empty behind the last
+  unsigned char type = DT_UNKNOWN;
+};
+
 // A directory of a tree, open while its contents go.
 class DoomedFolder {
  public:
-  explicit DoomedFolder(const Westring& shownPath) : path(shownPath) {}
+  // The object must outlive the folder.
+  explicit DoomedFolder(const DoomedObject& directory) : object(directory) {}
   ~DoomedFolder() { Close(); }
   DoomedFolder(const DoomedFolder&) = delete;
   DoomedFolder& operator=(const DoomedFolder&) = delete;
 
-  // Follows no link. 0 or errno.
-  int Open(const DoomedObject& object);
-  void Close();
-  // The next one but for the two that every directory has. Null at the end and,
-  // with errno set, after an error.
-  const dirent* NextName();
-  void Rewind() { rewinddir(stream); }
+  const DoomedObject& Object() const { return object; }
+
+  int Open();  // follows no link. 0 or errno
+  // Gives its descriptor back, and keeps the names that are still to come.
+  void Suspend();
+  // Opens it by the way up from a folder in it. 0, or errno: ENOENT where that
+  // leads somewhere else by now.
+  int Resume(const DoomedFolder& below);
+
+  // The next one but for the two that every directory has. 0 or errno.
+  int Next(DoomedName& next);
+  void Rewind();
   // Once, so that files in a directory without descriptions cost nothing.
   void LookForDescriptions();
   int Descriptor() const { return dirfd(stream); }
 
-  const Westring path;
   bool hasDescriptions = false;  // that may be written
 
  private:
+  int Adopt(int fd);
+  void Close();
+  int Read(DoomedName& next);
+
+  const DoomedObject& object;
   DIR* stream = nullptr;
+
+  // Since it was suspended: its stream no longer tells where the walk is.
+  bool wasSuspended = false;
+  dev_t device = 0;
+  ino_t inode = 0;
+  std::vector<DoomedName> rest;  // the next one last
+  int restCode = 0;              // what reading them ended with
 };
 
 class DoomedObject {
@@ -44,9 +70,9 @@ class DoomedObject {
   DoomedObject& operator=(const DoomedObject&) = delete;
 
   Westring Path() const;
-  bool IsInTree() const { return folder != nullptr; }
+  DoomedFolder* Folder() const { return folder; }  // null outside a tree
   // For the system's calls that count a name from an open directory.
-  int Directory() const { return directory; }
+  int Directory() const;
   const char* Name() const { return name; }
 
   // Each 0 or errno.
@@ -64,6 +90,5 @@ class DoomedObject {
  private:
   Estring bytes;  // of a path
   DoomedFolder* const folder = nullptr;
-  const int directory;
   const char* const name;
 };

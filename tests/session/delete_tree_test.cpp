@@ -6,11 +6,21 @@
 #include <filesystem>
 
 #include "session/delete_fixture.h"
+#include "support/faults.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-using DeleteTreeTest = DeleteFixture;
+using Strings = std::vector<std::string>;
+class DeleteTreeTest : public DeleteFixture {
+ protected:
+  Strings NamesIn(const std::string& directory) const {
+    Strings names;
+    for (const auto& item : fs::directory_iterator(place.Path(directory)))
+      names.push_back(item.path().filename());
+    return names;
+  }
+};
 
 void PutEscape() {
   auto* const event = new TEvent;
@@ -35,6 +45,12 @@ class DeepTree {
     close(directory);
   }
 };
+
+// The directory some levels down in a deep tree of "l".
+std::string Below(std::string top, int levels) {
+  for (int i = 0; i < levels; ++i) top += "/l";
+  return top;
+}
 
 }  // namespace
 
@@ -182,6 +198,55 @@ TEST_F(DeleteTreeTest, TwoHundredLevelsGo) {
   DeepTree(place.Path("dir"), "l", 200);
   EXPECT_EQ(DeleteTreeAt("dir"), 1);
   EXPECT_FALSE(Exists("dir"));
+}
+
+// More than may be open at once.
+TEST_F(DeleteTreeTest, LevelsBeyondWhatMayBeOpenGo) {
+  Options::Confirmations = 4;
+  place.Make({{"dir/", ""}});
+  DeepTree(place.Path("dir"), "l", 1200);
+  EXPECT_EQ(DeleteTreeAt("dir"), 1);
+  EXPECT_FALSE(Exists("dir"));
+}
+
+TEST_F(DeleteTreeTest, OnTheWayUpNothingIsAskedForTwice) {
+  Options::Confirmations = 4;
+  place.Make({{"dir/keep", ""}});
+  SetMode("dir/keep", 0444);
+  DeepTree(place.Path("dir"), "l", 100);
+  for (const char* name : {"dir/0", "dir/n", "dir/z"}) place.Write(name, "");
+  AsNobody nobody(place.Path());
+  Expect("File is Read Only, Delete anyway?", "s");
+  Expect("Directory not empty (39)", "s");
+  EXPECT_EQ(DeleteTreeAt("dir"), 1);
+  EXPECT_EQ(NamesIn("dir"), Strings{"keep"});
+}
+
+TEST_F(DeleteTreeTest, WhereTheWayUpLeadsElsewhereNothingElseGoes) {
+  Options::Confirmations = 4;
+  place.Make({{"dir/", ""}, {"elsewhere/file", "kept"}});
+  DeepTree(place.Path("dir"), "l", 100);
+  Fault moved(kCallUnlink, {.path = place.Path(Below("dir", 90)), .before = [this] {
+                              fs::rename(place.Path(Below("dir", 11)), place.Path("elsewhere/l"));
+                            }});
+  Expect("File not found", "Enter");
+  EXPECT_EQ(DeleteTreeAt("dir"), -1);
+  EXPECT_EQ(place.Content("elsewhere/file"), "kept");
+  EXPECT_TRUE(Exists("elsewhere/l"));
+  EXPECT_TRUE(Exists(Below("dir", 10)));
+}
+
+TEST_F(DeleteTreeTest, LevelsWithoutEndAreRefused) {
+  Options::Confirmations = 4;
+  place.Make({{"dir/", ""}});
+  DeepTree(place.Path("dir"), "l", 1600);
+  Expect("Name too long", "Enter");
+  EXPECT_EQ(DeleteTreeAt("dir"), -1);
+  EXPECT_TRUE(Exists(Below("dir", 1499)));
+  // In two parts it goes.
+  fs::rename(place.Path(Below("dir", 800)), place.Path("rest"));
+  EXPECT_EQ(DeleteTreeAt("dir"), 1);
+  EXPECT_EQ(DeleteTreeAt("rest"), 1);
 }
 
 // No path leads to the lowest of them.
