@@ -7,7 +7,9 @@
 #include "dialogs/prompt.h"
 #include "fileops/delete_object.h"
 #include "fileops/deletion_window.h"
+#include "fileops/descriptions.h"
 #include "fileops/file_error.h"
+#include "panels/panel_path.h"
 
 namespace {
 
@@ -62,9 +64,9 @@ class FileDeletion {
     }
   }
 
-  // In a tree somebody else has taken a file that was still listed.
+  // The descriptions' file goes with its last line, and so with another file.
   bool IsGoneAnyway(int code) const {
-    if (object.Folder()) return code == ENOENT;
+    if (code == ENOENT && IsDescriptionsName(LastComponent(object.Path().Text()))) return true;
     return mode == kDeleteAnyway && (code == ENOENT || code == ENOTDIR);
   }
 

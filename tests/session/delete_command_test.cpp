@@ -399,3 +399,12 @@ TEST(DeleteCommand, DescriptionsGoWithTheirFiles) {
   s.Keys("F8");
   EXPECT_FALSE(s.Exists("left/descript.ion"));
 }
+
+TEST(DeleteCommand, DescriptionsThatWentWithTheLastOfTheirFilesAreNotMissed) {
+  Session s({{"left/a", ""}, {"left/descript.ion", "a first\n"}, {"left/z", ""}},
+            {.settings = "Confirmations=3\n"});
+  TagNames(s, {"a", "descript.ion", "z"});
+  s.Keys("F8");
+  EXPECT_EQ(s.Names(kLeftSide), Strings{".."});
+  EXPECT_FALSE(Shows(s, "File not found"));
+}
