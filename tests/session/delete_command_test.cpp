@@ -254,6 +254,17 @@ TEST(DeleteCommand, EscTypedAheadStopsBeforeTheNext) {
   EXPECT_EQ(Tagged(kLeftSide), (Strings{"a", "b", "c"}));
 }
 
+TEST(DeleteCommand, BreakAtAQuestionStopsBeforeTheFirst) {
+  Session s(kFiles);
+  TagNames(s, {"a", "b"});
+  s.Keys("F8");
+  RequestBreak();
+  s.Keys("Enter Enter");
+  EXPECT_TRUE(s.Exists("left/a"));
+  EXPECT_TRUE(s.Exists("left/b"));
+  EXPECT_EQ(Tagged(kLeftSide), (Strings{"a", "b"}));
+}
+
 TEST(DeleteCommand, WhatCouldNotBeDeletedLosesItsTagAndRestoreBringsItBack) {
   Session s(kFiles, {.settings = "Confirmations=3\n"});
   TagNames(s, {"a", "b", "c"});

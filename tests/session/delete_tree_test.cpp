@@ -346,6 +346,15 @@ TEST_F(DeleteTreeTest, EscThatWaitsStopsBeforeTheFirstFile) {
   EXPECT_FALSE(Shows("Deleting"));
 }
 
+TEST_F(DeleteTreeTest, BreakAtTheTreeQuestionStopsAllTheSame) {
+  place.Make({{"dir/a", ""}});
+  BreakScope command;
+  Then([] { RequestBreak(); });
+  Keys("'yes' Enter");
+  EXPECT_EQ(DeleteTreeAt("dir"), -1);
+  EXPECT_TRUE(Exists("dir/a"));
+}
+
 TEST_F(DeleteTreeTest, EscAtAQuestionStopsTheWholeTree) {
   Options::Confirmations = 4;
   place.Make({{"dir/one/a", ""}, {"dir/one/b", ""}, {"dir/two/a", ""}, {"dir/two/b", ""}});
