@@ -320,6 +320,22 @@ TEST_F(DeleteTreeTest, ASubdirectoryThatCannotBeReadIsAskedFor) {
   EXPECT_FALSE(Exists("dir"));
 }
 
+TEST_F(DeleteTreeTest, AllAndNoneHoldForDirectoriesInside) {
+  Options::Confirmations = 4;
+  place.Make({{"dir/one/", ""}, {"dir/two/", ""}, {"dir/file", ""}});
+  for (const char* name : {"dir/one", "dir/two"}) SetMode(name, 0);
+  SetMode("dir/file", 0444);
+  AsNobody nobody(place.Path());
+  Expect(" is Read Only, Delete anyway?", "e");
+  Expect("Directory not empty (39)", "s");
+  EXPECT_EQ(DeleteTreeAt("dir"), 1);
+  EXPECT_EQ(NamesIn("dir").size(), 3u);
+  operation.readOnlyMode = kReadOnlyAsk;
+  Expect(" is Read Only, Delete anyway?", "a");
+  EXPECT_EQ(DeleteTreeAt("dir"), 1);
+  EXPECT_FALSE(Exists("dir"));
+}
+
 TEST_F(DeleteTreeTest, ASubdirectoryThatMayNotBeChangedKeepsItsFiles) {
   Options::Confirmations = 4;
   place.Make({{"dir/fixed/a", ""}});
@@ -343,6 +359,18 @@ TEST_F(DeleteTreeTest, EscThatWaitsStopsBeforeTheFirstFile) {
   EXPECT_TRUE(Exists("dir/a"));
   EXPECT_TRUE(Exists("dir/sub/b"));
   EXPECT_EQ(operation.treeDepth, 0);
+  EXPECT_FALSE(Shows("Deleting"));
+}
+
+TEST_F(DeleteTreeTest, EscDuringTheWalkStopsBeforeTheNext) {
+  Options::Confirmations = 4;
+  FileList files;
+  for (int i = 0; i < 20; ++i) files.emplace_back("dir/sub/" + std::to_string(i), "");
+  place.Make(files);
+  Fault pressed(kCallUnlink, {.path = place.Path("dir"), .at = 7, .before = PutEscape});
+  EXPECT_EQ(DeleteTreeAt("dir"), -1);
+  EXPECT_EQ(pressed.Calls(), 7);
+  EXPECT_EQ(NamesIn("dir/sub").size(), 13u);
   EXPECT_FALSE(Shows("Deleting"));
 }
 
