@@ -393,6 +393,15 @@ TEST(DeleteCommand, AnInformationPanelHasNone) {
   EXPECT_EQ(s.Screen(), before);
 }
 
+TEST(DeleteCommand, WithBothPanelsOffNothingIsDeleted) {
+  Session s(kFiles, {.settings = "Confirmations=3\n"});
+  GoTo(s, "a");
+  s.Keys("Ctrl-O F8");
+  EXPECT_TRUE(s.Exists("left/a"));
+  s.Keys("Ctrl-O F8");
+  EXPECT_FALSE(s.Exists("left/a"));
+}
+
 TEST(DeleteCommand, TheMenuHasIt) {
   Session s(kFiles);
   GoTo(s, "a");
