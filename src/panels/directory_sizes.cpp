@@ -131,7 +131,7 @@ int CalculateDirSizes(TPanel& panel, bool silent) {
     CountBox box(count);
     isComplete =
         panel.taggedCount > 0 ? CountTagged(panel, count) : CountEntry(panel, *panel.Current(), count);
-    if (isComplete && Options::SizeCountPause && !silent) box.WaitForOk();
+    if (Options::SizeCountPause && !silent) box.WaitForOk();  // also to read how far a stopped count came
   }
   ShowSizes(panel);
   return isComplete ? 1 : 0;
