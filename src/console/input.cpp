@@ -20,8 +20,15 @@ void RequestBreak() {
   SharedBreakState().compare_exchange_strong(armed, 2);
 }
 
-BreakScope::BreakScope() : saved(SharedBreakState().exchange(1)) {}
-BreakScope::~BreakScope() { SharedBreakState() = saved; }
+// Inside another scope nothing changes: a Break at any moment stops all of them.
+BreakScope::BreakScope() {
+  int off = 0;
+  outermost = SharedBreakState().compare_exchange_strong(off, 1);
+}
+
+BreakScope::~BreakScope() {
+  if (outermost) SharedBreakState() = 0;
+}
 
 bool BreakScope::Stopped() {
   if (SharedBreakState() == 2) return true;

@@ -27,8 +27,8 @@ struct TMouseEvent {
 extern uint32_t CurrentModifiers;
 extern uint32_t ReportedModifiers;
 
-// 0 off, 1 armed, 2 the user asked to stop. Code that runs long sets it to 1
-// and puts it back after; BreakScope does both.
+// 0 off, 1 armed, 2 the user asked to stop. Code that runs long arms it and
+// puts it back after; BreakScope does both.
 extern int BreakState;
 void RequestBreak();  // 1 becomes 2
 
@@ -43,7 +43,7 @@ class BreakScope {
   bool Stopped();
 
  private:
-  int saved;
+  bool outermost;
 };
 
 // Called by ReadKey before it waits and after each second without an event;

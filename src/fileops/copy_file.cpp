@@ -60,17 +60,9 @@ int CopyAndTell(CopyJob& job) {
 
 int CopyFile(FileOperation& operation, const Westring& sourcePath, const Westring& targetPath, bool force,
              bool isMove, Descriptions* sources, int flags) {
-  if (BreakState == 2) return kStopCommand;
-  int code = 0;
-  bool stopped = false;
-  {
-    BreakScope cancel;
-    CopyJob job{operation, cancel, sourcePath, targetPath, ToUtf8(sourcePath), ToUtf8(targetPath), {},
-                force,     isMove, sources,    flags};
-    code = CopyAndTell(job);
-    stopped = BreakState == 2;
-  }
-  // A cancel that came too late for this object is for those that follow.
-  if (stopped) RequestBreak();
-  return code;
+  BreakScope cancel;
+  if (cancel.Stopped()) return kStopCommand;
+  CopyJob job{operation, cancel, sourcePath, targetPath, ToUtf8(sourcePath), ToUtf8(targetPath), {},
+              force,     isMove, sources,    flags};
+  return CopyAndTell(job);
 }

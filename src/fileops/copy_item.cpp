@@ -77,9 +77,7 @@ class ItemCopy {
 
 int CopyItem(FileOperation& operation, const Westring& sourcePath, const Westring& targetPath, int index,
              int total, Descriptions* sources) {
-  const auto copy = [&](BreakScope&) {
-    return ItemCopy(TransferItem(operation, sourcePath, targetPath, sources)).Run();
-  };
   if (operation.progress) operation.progress->ShowItem(sourcePath, targetPath, index, total);
-  return RunCancellable(copy);
+  const BreakScope armed;
+  return ItemCopy(TransferItem(operation, sourcePath, targetPath, sources)).Run();
 }

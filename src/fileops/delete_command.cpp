@@ -99,7 +99,6 @@ void NoteProcessed(TPanel& panel, entry& e) {
 // One that could not be deleted loses its tag as well; Restore Selection brings
 // it back.
 void DeleteTagged(FileOperation& operation, TPanel& panel) {
-  if (BreakState == 2) return;  // during a question; a scope of one's own would not know
   BreakScope stop;
   UnspellableNames unspellable(panel.path);
   bool treeChanged = false;

@@ -184,6 +184,5 @@ int DeleteTree(FileOperation& operation, const Westring& path, const Westring& m
 }
 
 int DeleteContents(FileOperation& operation, const Westring& path, const Westring& mask) {
-  if (BreakState == 2) return kStopCommand;  // during a question; a scope of one's own would not know
   return TreeDeletion(operation, mask).Clear(DoomedObject(path));
 }

@@ -59,18 +59,3 @@ int RefuseName(FileOperation& operation, const DirectoryNames& names, const char
 // not be read where that is needed, or, for a move, not be taken out of its
 // directory.
 bool CanGiveSource(const TransferItem& item, bool isMove);
-
-// Runs with the cancel state armed. A cancel that came too late for this item is
-// for those that follow.
-template <class Work>
-int RunCancellable(Work work) {
-  int code = 0;
-  bool stopped = false;
-  {
-    BreakScope cancel;
-    code = work(cancel);
-    stopped = BreakState == 2;
-  }
-  if (stopped) RequestBreak();
-  return code;
-}

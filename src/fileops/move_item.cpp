@@ -138,7 +138,6 @@ int MoveItem(FileOperation& operation, const Westring& sourcePath, const Westrin
       progress->state.total = total;
     }
   }
-  return RunCancellable([&](BreakScope& cancel) {
-    return ItemMove(TransferItem(operation, sourcePath, targetPath, sources), cancel).Run();
-  });
+  BreakScope cancel;
+  return ItemMove(TransferItem(operation, sourcePath, targetPath, sources), cancel).Run();
 }

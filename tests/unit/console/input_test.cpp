@@ -82,8 +82,8 @@ TEST_F(Input, MouseEventsAreTranslated) {
     int type, button, kind;
   };
   constexpr Row kRows[] = {
-      {kEventPress, 1, 0},   {kEventPress, 2, 1},  {kEventRelease, 1, 5},     {kEventRelease, 2, 6},
-      {kEventMotion, 1, 2},  {kEventMotion, 2, 3}, {kEventDoubleClick, 1, 4}, {kEventDoubleClick, 2, 1},
+      {kEventPress, 1, 0},  {kEventPress, 2, 1},  {kEventRelease, 1, 5},     {kEventRelease, 2, 6},
+      {kEventMotion, 1, 2}, {kEventMotion, 2, 3}, {kEventDoubleClick, 1, 4}, {kEventDoubleClick, 2, 1},
   };
   for (const Row& row : kRows) {
     Put({row.type, row.button, 0, 0, 7, 9});
@@ -197,12 +197,21 @@ TEST_F(Input, ABreakNeedsAnArmedOperation) {
   EXPECT_EQ(BreakState, 0);
 }
 
-TEST_F(Input, BreakScopesNest) {
+TEST_F(Input, ABreakInsideStopsWhatIsAroundIt) {
+  BreakScope outer;
+  {
+    BreakScope inner;
+    RequestBreak();
+  }
+  EXPECT_TRUE(outer.Stopped());
+}
+
+TEST_F(Input, ABreakOutsideStopsWhatComesNext) {
   BreakScope outer;
   RequestBreak();
   {
     BreakScope inner;
-    EXPECT_FALSE(inner.Stopped());
+    EXPECT_TRUE(inner.Stopped());
   }
   EXPECT_TRUE(outer.Stopped());
 }
