@@ -9,9 +9,18 @@
 #include <filesystem>
 #include <fstream>
 
-Scratch::Scratch() {
+namespace {
+
+std::string UsualPlace() {
   const char* const place = getenv("TMPDIR");
-  root = std::string(place && *place ? place : "/tmp") + "/orvane-bench-XXXXXX";
+  return place && *place ? place : "/tmp";
+}
+
+}  // namespace
+
+Scratch::Scratch() : Scratch(UsualPlace()) {}
+
+Scratch::Scratch(const std::string& place) : root(place + "/orvane-bench-XXXXXX") {
   if (mkdtemp(root.data())) return;
   perror(root.c_str());
   exit(2);

@@ -5,7 +5,8 @@
 
 class Scratch {
  public:
-  Scratch();  // in $TMPDIR, else /tmp; ends the process where that fails
+  Scratch();                                   // in $TMPDIR, else /tmp; ends the process where that fails
+  explicit Scratch(const std::string& place);  // in that directory
   ~Scratch();
   Scratch(const Scratch&) = delete;
   Scratch& operator=(const Scratch&) = delete;
