@@ -6,7 +6,6 @@
 
 #include "config/values/options.h"
 #include "console/input.h"
-#include "fileops/build_target.h"
 #include "fileops/copy_destination.h"
 #include "fileops/copy_dialog.h"
 #include "fileops/copy_item.h"
@@ -88,11 +87,13 @@ class CopyCommand {
       question.destination = *target;
     } else {
       question.title = Title();
-      question.destination = DefaultDestination();
+      const Westring offered = DefaultDestination();
+      question.destination = offered;
       question.otherDirectory = DirectoryOf(other);
       question.flips = !takesTags;
       question.asksOverwrite = takesTags || IsDirectoryHere(question.destination);
       if (!CCopyDlg(question).Ask()) return false;
+      destination.isLiteral = wcscmp(question.destination.Text(), offered.Text()) == 0;
     }
     operation.overwriteMode = question.overwriteMode;
     return ResolveDestination(question.destination, source.path, destination) &&
@@ -154,8 +155,7 @@ class CopyCommand {
       entry& e = *source.entries[i];
       if (!e.tagged) continue;
       const Westring path = JoinPath(source.path, e.name);
-      Westring target;
-      BuildTarget(path, destination.path, target);
+      const Westring target = TargetOfTagged(destination, path);
       const int code = TransferNamed(e.name, path, target, ++index, count, IsRealDirectory(e));
       if (code == 0) MarkDone(e);
       if (code < 0 || cancel.Stopped()) return;

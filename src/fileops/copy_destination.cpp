@@ -17,6 +17,20 @@ bool EndsInSlash(const Westring& path) { return !path.IsEmpty() && path[Length(p
 
 bool Stat(const Westring& path, struct stat& status) { return stat(ToUtf8(path).Text(), &status) == 0; }
 
+bool IsPattern(const CopyDestination& destination) {
+  return !destination.isLiteral && IsTargetPattern(destination.path);
+}
+
+Westring TargetInside(const CopyDestination& destination, const Westring& source) {
+  return AddTrailingSlash(destination.path) + LastComponent(source.Text());
+}
+
+Westring BuiltTarget(const CopyDestination& destination, const Westring& source) {
+  Westring target;
+  BuildTarget(source, destination.path, target);
+  return target;
+}
+
 bool TakesMany(const Westring& path) {
   struct stat status;
   if (!Stat(path, status)) return false;
@@ -27,7 +41,7 @@ bool TakesMany(const Westring& path) {
 }  // namespace
 
 bool ResolveDestination(const Westring& typed, const Westring& base, CopyDestination& destination) {
-  const Westring text = ExpandEnvironment(typed);
+  const Westring text = destination.isLiteral ? typed : ExpandEnvironment(typed);
   const bool endsInSlash = EndsInSlash(text);
   if (!NormalisePath(text, base, destination.path)) {
     Prompt(L"Invalid path", typed, kPromptOk);
@@ -41,23 +55,26 @@ bool ResolveDestination(const Westring& typed, const Westring& base, CopyDestina
 Westring DirectoryForMany(const CopyDestination& destination) {
   const Westring path = RemoveTrailingSlash(destination.path);
   if (path.IsEmpty()) return destination.path;
-  return IsTargetPattern(destination.path) ? ParentPath(path.Text()) : path;
+  return IsPattern(destination) ? ParentPath(path.Text()) : path;
 }
 
 bool HasRoomForMany(const CopyDestination& destination) {
   const Westring directory = DirectoryForMany(destination);
   if (TakesMany(directory)) return true;
-  const bool isMissing = EndsInSlash(destination.path) || IsTargetPattern(destination.path);
+  const bool isMissing = EndsInSlash(destination.path) || IsPattern(destination);
   Prompt(isMissing ? L"Directory does not exist" : L"Destination must be a valid directory", directory,
          kPromptOk);
   return false;
 }
 
 Westring TargetOfOne(const CopyDestination& destination, const Westring& source) {
-  if (destination.namesDirectory) return AddTrailingSlash(destination.path) + LastComponent(source.Text());
-  Westring target;
-  BuildTarget(source, destination.path, target);
-  return target;
+  if (destination.namesDirectory) return TargetInside(destination, source);
+  return destination.isLiteral ? destination.path : BuiltTarget(destination, source);
+}
+
+Westring TargetOfTagged(const CopyDestination& destination, const Westring& source) {
+  const bool isOfferedDirectory = destination.isLiteral && destination.namesDirectory;
+  return isOfferedDirectory ? TargetInside(destination, source) : BuiltTarget(destination, source);
 }
 
 bool AreOnOneDevice(const Westring& a, const Westring& b) {

@@ -294,3 +294,25 @@ TEST(CopyDialog, ADeviceTakesMany) {
   EXPECT_TRUE(Tagged(kLeftSide).empty());
   EXPECT_EQ(Processed(kLeftSide), (Strings{"a.txt", "b.txt"}));
 }
+
+// Nobody typed a variable or a pattern there.
+TEST(CopyDialog, ADestinationLeftAsItWasOfferedIsTakenForWhatItIs) {
+  for (const std::string name : {"what?.txt", "a*b.txt", "x$NO_SUCH_NAME.txt", "a\\b"}) {
+    Session s({{"left/" + name, "a"}, {"right/", ""}});
+    GoTo(s, name);
+    s.Keys("F5 Enter");
+    EXPECT_EQ(s.Content("right/" + name), "a");
+    s.Keys("F6 Enter y");
+    EXPECT_EQ(s.Content("right/" + name), "a");
+    EXPECT_FALSE(s.Exists("left/" + name));
+  }
+}
+
+TEST(CopyDialog, ADirectoryLeftAsItWasOfferedIsNoPatternForMany) {
+  Session s({{"left/a.txt", "a"}, {"left/b.txt", "b"}, {"right/*$NO_SUCH_NAME.bak/", ""}});
+  s.Keys("Tab Down Enter Tab");
+  TagNames(s, {"a.txt", "b.txt"});
+  s.Keys("F5 Enter");
+  EXPECT_EQ(s.Content("right/*$NO_SUCH_NAME.bak/a.txt"), "a");
+  EXPECT_EQ(s.Content("right/*$NO_SUCH_NAME.bak/b.txt"), "b");
+}
