@@ -30,8 +30,9 @@ TEST(Window, TitleIsThePathOfTheActivePanel) {
 
 TEST(Window, TitleIsTheCommandWhileItRuns) {
   Desktop d;
-  d.Keys("'read line' Enter");
-  EXPECT_TRUE(d.Eventually([&] { return d.Title() == "Orvane: read line"; }));
+  d.Keys("'echo up; read line' Enter");
+  EXPECT_TRUE(d.EventuallyShows("\nup "));  // until the child is there, keys are the program's own
+  EXPECT_EQ(d.Title(), "Orvane: echo up; read line");
   d.Keys("Enter");
   EXPECT_TRUE(d.Eventually([&] { return d.Title() == "Orvane: " + d.Path("left"); }));
 }
