@@ -328,7 +328,7 @@ TEST_F(ItemFaults, ACancelDuringARenameEndsTheCommandBehindIt) {
 TEST_F(ItemFaults, ACancelThatComesTooLateForAnItemIsForThoseThatFollow) {
   own.Write("source", "one");
   BreakScope outer;
-  Fault fault(kCallSetMode, {.path = own.Path("target"), .before = RequestBreak});
+  Fault fault(kCallSetTime, {.path = own.Path("target"), .before = RequestBreak});
   EXPECT_EQ(Copy(), 0);
   EXPECT_TRUE(outer.Stopped());
 }

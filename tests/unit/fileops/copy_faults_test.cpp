@@ -12,7 +12,13 @@ constexpr size_t kSize = (8 << 20) + 100;
 
 class CopyFaultsTest : public CopyFixture {
  protected:
-  CopyFaultsTest() { files.Write("source", bytes); }
+  CopyFaultsTest() { WriteSource(); }
+
+  // With a mode that no file is made with.
+  void WriteSource() {
+    files.Write("source", bytes);
+    chmod(files.Path("source").c_str(), 0755);
+  }
 
   void ExpectOnlyTheSource(const std::string& what) {
     EXPECT_FALSE(files.Exists("target")) << what;
@@ -172,7 +178,7 @@ TEST_F(CopyFaultsTest, AKillAtAnyCallLeavesTheSourceOrTheTargetWhole) {
       const bool sourceIsWhole = Content("source") == bytes, targetIsWhole = Content("target") == bytes;
       EXPECT_TRUE(sourceIsWhole || targetIsWhole) << "call " << call << " at " << at;
       EXPECT_TRUE(killed || !files.Exists("source"));
-      files.Write("source", bytes);
+      WriteSource();
       unlink(files.Path("target").c_str());
     }
     EXPECT_GT(ends, 0) << "no such call as " << call;

@@ -314,7 +314,7 @@ TEST_F(CopyFileTest, ASourceThatAnotherFileReplacedIsNotDeleted) {
 
 TEST_F(CopyFileTest, ATargetThatLostItsNameKeepsTheSource) {
   files.Write("source", "one");
-  Fault taken(kCallSetMode, Before("target", 1, [&] {
+  Fault taken(kCallSetTime, Before("target", 1, [&] {
                 unlink(files.Path("target").c_str());
                 files.Write("target", "somebody's");
               }));
@@ -376,12 +376,13 @@ TEST_F(CopyFileTest, ASmallFileTakesFewCalls) {
   ASSERT_NE(none.Open(Wide(""), false, false), 0);
   Fault opens(kCallOpen, {.path = files.Path()}), reads(kCallRead, {.path = files.Path()}),
       writes(kCallWrite, {.path = files.Path()}), seeks(kCallSeek, {.path = files.Path()}),
-      kernel(kCallKernelCopy, {.path = files.Path()}), cuts(kCallTruncate, {.path = files.Path()});
+      kernel(kCallKernelCopy, {.path = files.Path()}), cuts(kCallTruncate, {.path = files.Path()}),
+      modes(kCallSetMode, {.path = files.Path()});
   EXPECT_EQ(CopyFile(operation, Wide("source"), Wide("target"), false, false, &none, 0), 0);
   EXPECT_EQ(opens.Calls(), 2);
   EXPECT_EQ(reads.Calls(), 2);
   EXPECT_EQ(writes.Calls(), 1);
-  EXPECT_EQ(seeks.Calls() + kernel.Calls() + cuts.Calls(), 0);
+  EXPECT_EQ(seeks.Calls() + kernel.Calls() + cuts.Calls() + modes.Calls(), 0);
 }
 
 }  // namespace
