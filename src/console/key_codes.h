@@ -64,6 +64,7 @@ enum : Key {
   kAltShiftBackspace = 0x3000E,
   kShiftTab = 0x3000F,
   kCtrlTab = 0x10094,
+  kAltD = 0x10020,
   kAltBackslash = 0x1002B,
 
   kGreyPlus = 0x40002B, kCtrlGreyPlus = 0x10090, kAltGreyPlus = 0x1004E, kCtrlShiftGreyPlus = 0x30090,

@@ -10,8 +10,6 @@
 
 namespace {
 
-bool EndsInSlash(const Westring& path) { return !path.IsEmpty() && path[Length(path) - 1] == L'/'; }
-
 // No object can have these.
 bool IsNoName(const Westring& name) {
   return name.IsEmpty() || wcscmp(name.Text(), L".") == 0 || wcscmp(name.Text(), L"..") == 0;

@@ -26,17 +26,10 @@ namespace {
 
 constexpr int kLongestName = 55;  // in the dialog's title
 
-// The case of names is not the file system's own.
-bool HasCaseFilter(const TPanel& panel) {
-  return !panel.archive && panel.fileSystem[0] && FindNoCase(Options::CaseFilter, panel.fileSystem) >= 0;
-}
-
 // What the panel stands on: its directory, or its row of a tree.
 Westring DirectoryOf(const TPanel& panel) {
   return panel.IsTree() ? TreeRowPath(panel, panel.CurrentIndex()) : Westring(panel.path);
 }
-
-bool IsRealDirectory(const entry& e) { return e.IsDirectory() && !e.IsLink(); }
 
 class CopyCommand {
  public:
@@ -119,7 +112,7 @@ class CopyCommand {
 
   // An entry beside tagged ones, or of a tree, whose rows hold no sizes.
   bool CountOne() {
-    if (!IsRealDirectory(current)) return true;
+    if (!current.IsRealDirectory()) return true;
     DirectoryCount count;
     const uint64_t bytes = CountDirectory(sourcePath, count);
     total = static_cast<int64_t>(bytes);
@@ -142,7 +135,7 @@ class CopyCommand {
       TransferTagged(cancel);
     else
       TransferNamed(CurrentName(), sourcePath, TargetOfOne(destination, sourcePath), 1, 1,
-                    IsRealDirectory(current));
+                    current.IsRealDirectory());
     if (movedDirectory && TheTreeHooks.save) TheTreeHooks.save();
     sources = nullptr;
     operation.progress = nullptr;
@@ -156,7 +149,7 @@ class CopyCommand {
       if (!e.tagged) continue;
       const Westring path = JoinPath(source.path, e.name);
       const Westring target = TargetOfTagged(destination, path);
-      const int code = TransferNamed(e.name, path, target, ++index, count, IsRealDirectory(e));
+      const int code = TransferNamed(e.name, path, target, ++index, count, e.IsRealDirectory());
       if (code == 0) MarkDone(e);
       if (code < 0 || cancel.Stopped()) return;
     }

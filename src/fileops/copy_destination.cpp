@@ -13,8 +13,6 @@
 
 namespace {
 
-bool EndsInSlash(const Westring& path) { return !path.IsEmpty() && path[Length(path) - 1] == L'/'; }
-
 bool Stat(const Westring& path, struct stat& status) { return stat(ToUtf8(path).Text(), &status) == 0; }
 
 bool IsPattern(const CopyDestination& destination) {

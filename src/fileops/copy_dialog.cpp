@@ -12,7 +12,6 @@ constexpr int kWidth = 76, kHeight = 7, kOverwriteHeight = 9;
 constexpr int kColumn = 1, kTitleRow = 1, kFieldRow = 2, kOverwriteRow = 4;
 constexpr int kFieldWidth = 72;
 constexpr int kNoLimit = -1;
-constexpr Key kAltD = 0x10020;
 
 struct ModeRow {
   int x;

@@ -25,8 +25,6 @@ namespace {
 // Bits of Options::Confirmations; one that is set spares the user the question.
 constexpr int kConfirmOff = 1, kConfirmTaggedOff = 2;
 
-bool IsRealDirectory(const entry& e) { return e.IsDirectory() && !e.IsLink(); }
-
 // ---- the questions before ----------------------------------------------------
 
 // Deleted files of some places are kept for a while, and the user may not want
@@ -107,7 +105,7 @@ void DeleteTagged(FileOperation& operation, TPanel& panel) {
     entry& e = *panel.entries[i];
     if (!e.tagged) continue;
     if (stop.Stopped()) break;
-    const bool isDirectory = IsRealDirectory(e);
+    const bool isDirectory = e.IsRealDirectory();
     treeChanged = treeChanged || isDirectory;
     if (DeleteObject(operation, panel.path, e.name, isDirectory, kDeleteBatch, unspellable) < 0) break;
     NoteProcessed(panel, e);
@@ -130,7 +128,7 @@ void DeletePath(FileOperation& operation, const Westring& path, bool isDirectory
 void DeleteCurrent(FileOperation& operation, const TPanel& panel) {
   const entry* const current = panel.Current();
   if (!current || IsDotDot(*current)) return;
-  const bool isDirectory = IsRealDirectory(*current);
+  const bool isDirectory = current->IsRealDirectory();
   if (panel.IsTree())
     DeletePath(operation, TreeRowPath(panel, panel.CurrentIndex()), isDirectory);
   else
@@ -170,7 +168,7 @@ bool Look(FileOperation& operation, const Westring& path, entry*& found) {
 void DeleteNamed(FileOperation& operation, const TPanel& panel, const Westring& path) {
   entry* found = nullptr;
   if (!Look(operation, path, found)) return;
-  const bool isDirectory = IsRealDirectory(*found);
+  const bool isDirectory = found->IsRealDirectory();
   const bool confirmed = ConfirmOne(operation, panel, path, *found);
   FreeEntry(found);
   if (confirmed) DeletePath(operation, path, isDirectory);

@@ -13,14 +13,13 @@
 #include "fileops/copy_file.h"
 #include "fileops/copy_item.h"
 #include "fileops/copy_progress.h"
+#include "fileops/copy_target.h"
 #include "fileops/delete_file.h"
 #include "fileops/file_error.h"
 #include "foundation/file_time.h"
 #include "panels/panel_path.h"
 
 namespace {
-
-bool IsDeviceMode(mode_t mode) { return S_ISCHR(mode) || S_ISBLK(mode) || S_ISFIFO(mode) || S_ISSOCK(mode); }
 
 bool Allows(const Westring& path, int access) {
   return faccessat(AT_FDCWD, ToUtf8(path).Text(), access, AT_EACCESS | AT_SYMLINK_NOFOLLOW) == 0;
@@ -60,7 +59,7 @@ ObjectState LookAt(const Westring& path) {
   state.modified = FromTimespec(status.st_mtim).Order();
   if (state.isLink && stat(bytes.Text(), &status) != 0) return state;
   state.isDirectory = S_ISDIR(status.st_mode);
-  state.isDevice = IsDeviceMode(status.st_mode);
+  state.isDevice = IsDevice(status);
   return state;
 }
 

@@ -34,11 +34,6 @@ bool AskForName(Westring& name) {
   return dialog.Run() == static_cast<int>(kEnter) && !name.IsEmpty();
 }
 
-// The file system of the panel shows directories in upper case.
-bool HasCaseFilter(const TPanel& panel) {
-  return panel.fileSystem[0] && FindNoCase(Options::CaseFilter, panel.fileSystem) >= 0;
-}
-
 // The directories on the way are there already, and called what they are.
 Westring UpperName(const Westring& path) {
   const auto length = static_cast<int>(LastComponent(path.Text()) - path.Text());

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 #include "foundation/collections.h"
 #include "foundation/file_time.h"
@@ -36,12 +37,19 @@ struct entry {
 
   bool IsDirectory() const { return attributes & kAttrDirectory; }
   bool IsLink() const { return attributes & kAttrLink; }
+  bool IsRealDirectory() const { return IsDirectory() && !IsLink(); }
 };
 
 // A block with room for nameLength characters; every field zero, treeLink -1.
 entry* NewEntry(size_t nameLength);
 entry* NewEntry(const wchar_t* name);
 void FreeEntry(entry* e);
+
+struct EntryFreer {
+  void operator()(entry* e) const { FreeEntry(e); }
+};
+using OwnedEntry = std::unique_ptr<entry, EntryFreer>;
+
 size_t EntryBytes(size_t nameLength);  // size of such a block
 
 bool IsDotDot(const entry& e);  // exactly ".."

@@ -128,10 +128,6 @@ class Evaluator {
   bool error = false;
 };
 
-struct EntryDeleter {
-  void operator()(entry* e) const { FreeEntry(e); }
-};
-
 }  // namespace
 
 int MatchEntry(const wchar_t* expression, const entry& e) {
@@ -140,7 +136,7 @@ int MatchEntry(const wchar_t* expression, const entry& e) {
 }
 
 int MatchName(const wchar_t* expression, const wchar_t* name) {
-  const std::unique_ptr<entry, EntryDeleter> e(NewEntry(name));
+  const OwnedEntry e(NewEntry(name));
   return MatchEntry(expression, *e);
 }
 
@@ -157,6 +153,6 @@ bool TestRuleList(AssociationSet& rules, const entry& e, Westring& text) {
 }
 
 bool TestRuleList(AssociationSet& rules, const wchar_t* name, Westring& text) {
-  const std::unique_ptr<entry, EntryDeleter> e(NewEntry(name));
+  const OwnedEntry e(NewEntry(name));
   return TestRuleList(rules, *e, text);
 }

@@ -20,3 +20,5 @@ const wchar_t* LastComponent(const wchar_t* path) {
   const wchar_t* const slash = wcsrchr(path, L'/');
   return slash ? slash + 1 : path;
 }
+
+bool EndsInSlash(const Westring& path) { return !path.IsEmpty() && path[Length(path) - 1] == L'/'; }

@@ -13,5 +13,7 @@ bool IsPathInside(const wchar_t* path, const wchar_t* directory);
 // The directory that holds path; the root for what has none.
 Westring ParentPath(const wchar_t* path);
 
+bool EndsInSlash(const Westring& path);
+
 // What stands behind the last "/".
 const wchar_t* LastComponent(const wchar_t* path);

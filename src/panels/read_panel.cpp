@@ -103,8 +103,7 @@ class Intake {
       : panel(target),
         atRoot(IsRootPath(target.path)),
         takesAllFiles(wcscmp(target.filter.Text(), L"*") == 0),
-        changesCase(!target.archive && target.fileSystem[0] &&
-                    FindNoCase(Options::CaseFilter, target.fileSystem) >= 0) {}
+        changesCase(HasCaseFilter(target)) {}
 
   void Take(entry* e) {
     if (e->IsDirectory() && !e->IsLink() && !IsDot(*e) && !IsDotDot(*e)) panel.subdirectories.Load(e->name);
@@ -242,6 +241,10 @@ void RedrawInfoBeside(const TPanel& panel) {
 }
 
 }  // namespace
+
+bool HasCaseFilter(const TPanel& panel) {
+  return !panel.archive && panel.fileSystem[0] && FindNoCase(Options::CaseFilter, panel.fileSystem) >= 0;
+}
 
 void ReadPanel(TPanel& panel) {
   if (!panel.visible || !panel.IsFiles()) return Postpone(panel);

@@ -6,6 +6,10 @@
 // Reads panel.path; a re-read keeps tags and the file under the cursor.
 void ReadPanel(TPanel& panel);
 
+// The panel's file system is one of those whose names are all upper case: it shows
+// files in lower case, and makes directories in upper case.
+bool HasCaseFilter(const TPanel& panel);
+
 // Hidden panels only note that a read is owed.
 void ReadBothPanels();
 

@@ -15,7 +15,6 @@ constexpr int kTop = 6, kWidth = 34, kHeight = 10;
 constexpr int kColumn = 1, kTitleRow = 1, kFieldRow = 2, kLabelRow = 3, kLabelColumn = 19, kButtonRow = 5;
 constexpr int kFieldWidth = 30;  // and the arrow of its history
 constexpr int kLongestExpression = 511;
-constexpr Key kAltD = 0x10020;
 
 // What is selected by; both commands and both panels go on from the last one.
 Westring TheExpression = L"*";

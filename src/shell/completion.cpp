@@ -23,10 +23,6 @@ namespace {
 
 constexpr wchar_t kTitle[] = L" File Names ";
 
-struct EntryFreer {
-  void operator()(entry* e) const { FreeEntry(e); }
-};
-
 // Where the word begins that ends at the cursor.
 int WordBegin(const Westring& line, int cursor) {
   int begin = 0;
@@ -77,7 +73,7 @@ Names NamesIn(const Westring& directory, const Westring& head) {
   const size_t length = wcslen(head.Text());
   entry* found = nullptr;
   for (int code = source->First(found); code == 0; code = source->Next(found)) {
-    const std::unique_ptr<entry, EntryFreer> owner(found);
+    const OwnedEntry owner(found);
     const bool isDots = wcscmp(found->name, L".") == 0 || IsDotDot(*found);
     if (!isDots && wcsncmp(found->name, head.Text(), length) == 0) names.emplace_back(found->name);
   }

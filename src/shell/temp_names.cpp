@@ -21,10 +21,6 @@ bool IsTaken(const Westring& path) {
   return lstat(ToUtf8(path).Text(), &status) == 0;
 }
 
-struct EntryFreer {
-  void operator()(entry* e) const { FreeEntry(e); }
-};
-
 }  // namespace
 
 Westring TempDirectory() {
@@ -54,7 +50,7 @@ void RemoveTempFiles() {
   const auto source = ScanDirectory(directory, mask.Text(), kScanAll);
   entry* found = nullptr;
   for (int code = source->First(found); code == 0; code = source->Next(found)) {
-    const std::unique_ptr<entry, EntryFreer> owner(found);
+    const OwnedEntry owner(found);
     unlink(ToUtf8(JoinPath(directory, found->name)).Text());
   }
 }

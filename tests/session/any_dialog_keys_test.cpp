@@ -10,6 +10,7 @@
 #include "panels/panel.h"
 #include "session/main_screen.h"
 #include "shell/menu_commands.h"
+#include "support/faults.h"
 
 namespace {
 
@@ -140,6 +141,7 @@ TEST_P(AnyDialogKeys, LeadBackToThePanelsByEscape) {
   setup.settings = "ScrollDelay=0\n";
   setup.environment = {{"PATH", "/nonexistent"}, {"SHELL", "/bin/true"}};
   Session s(files, setup);
+  const ReadOnlyOutside contained(s.Path());
   for (int step = 0; step < 1200 && !s.HasEnded(); ++step) {
     Act(s);
     // The question itself is looked at elsewhere; here it would only end the walk.

@@ -2,11 +2,13 @@
 // each panel is where the program thinks it is, with one cursor bar between them.
 #include <gtest/gtest.h>
 
+#include <cwchar>
 #include <random>
 
 #include "panels/panel.h"
 #include "session/main_screen.h"
 #include "shell/menu_commands.h"
+#include "support/faults.h"
 
 namespace {
 
@@ -95,16 +97,28 @@ void ExpectNothingStale(Session& s) {
   ASSERT_EQ(Cells(s), before);
 }
 
+// Out of directories that are another machine's business, or change by themselves.
+void ComeBack(Session& s) {
+  for (SessionSide side : {kLeftSide, kRightSide}) {
+    if (s.PanelPath(side).compare(0, s.Path().size(), s.Path()) == 0) continue;
+    wcscpy(Panels[side].path, Westring(s.Path("left").c_str()).Text());
+    s.Command(side == kLeftSide ? kMenuLeftReRead : kMenuRightReRead);
+  }
+}
+
 }  // namespace
 
 TEST_P(AnyKeys, LeaveTheScreenInOrder) {
   FileList files = NumberedFiles("left", 70);
   files.insert(files.end(), {{"left/dir/inner/x", ""}, {"right/.hidden", ""}, {"right/sub/y", ""}});
-  Session s(files, {.settings = "ScrollDelay=0\n"});
+  Session s(files, {.settings = "ScrollDelay=0\n",
+                    .environment = {{"PATH", "/nonexistent"}, {"SHELL", "/bin/true"}}});
+  const ReadOnlyOutside contained(s.Path());
   for (int step = 0; step < 1000; ++step) {
     Act(s);
     ASSERT_FALSE(s.HasEnded());
     if (s.FindRow("[ OK ]")) continue;
+    ComeBack(s);
     for (SessionSide side : {kLeftSide, kRightSide}) {
       ExpectOrder(s, side);
       if (HasFatalFailure()) FAIL() << "in step " << step << ", side " << side;

@@ -8,11 +8,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <climits>
 #include <cstdarg>
 #include <cstdio>
+#include <iterator>
 #include <mutex>
 #include <utility>
 
@@ -59,11 +61,41 @@ int Fault::Happen() {
 
 namespace {
 
+// What paths begin with that may be changed; null if all may.
+std::atomic<const std::string*> WritablePrefix = nullptr;
+
+}  // namespace
+
+ReadOnlyOutside::ReadOnlyOutside(const std::string& directory) : prefix(directory + "/") {
+  WritablePrefix = &prefix;
+}
+
+ReadOnlyOutside::~ReadOnlyOutside() { WritablePrefix = nullptr; }
+
+namespace {
+
+constexpr FaultCall kChanges[] = {kCallSetTime, kCallSetMode,       kCallTruncate, kCallUnlink,
+                                  kCallRename,  kCallMakeDirectory, kCallMakeLink};
+
+// A path with a ".." may lead anywhere.
+bool IsReadOnly(const std::string& path) {
+  const std::string* prefix = WritablePrefix;
+  return prefix && (path.compare(0, prefix->size(), *prefix) != 0 || path.find("/..") != path.npos);
+}
+
+bool MayChange(int openFlags) {
+  return (openFlags & O_ACCMODE) != O_RDONLY || (openFlags & (O_CREAT | O_TRUNC)) != 0;
+}
+
 // What the faults themselves do is not theirs to disturb.
 thread_local bool isAsking = false;
 
 template <class Path>
 bool Fails(FaultCall call, Path path) {
+  if (WritablePrefix && std::ranges::find(kChanges, call) != std::end(kChanges) && IsReadOnly(path())) {
+    errno = EROFS;
+    return true;
+  }
   if (FaultList::count == 0 || isAsking) return false;
   const int before = errno;
   isAsking = true;
@@ -80,15 +112,25 @@ std::string PathOf(int fd) {
   return length < 0 ? std::string() : std::string(path, static_cast<size_t>(length));
 }
 
+std::string PathBelow(int directory, const char* path) {
+  const bool isRelative = path[0] != '/' && directory != AT_FDCWD;
+  return isRelative ? PathOf(directory) + "/" + path : std::string(path);
+}
+
 bool FailsOn(FaultCall call, int fd) {
   return Fails(call, [fd] { return PathOf(fd); });
 }
 
 bool FailsOn(FaultCall call, const char* path, int directory = AT_FDCWD) {
-  return Fails(call, [path, directory] {
-    const bool isRelative = path[0] != '/' && directory != AT_FDCWD;
-    return isRelative ? PathOf(directory) + "/" + path : std::string(path);
-  });
+  return Fails(call, [path, directory] { return PathBelow(directory, path); });
+}
+
+bool FailsToOpen(const char* path, int flags, int directory = AT_FDCWD) {
+  if (WritablePrefix && MayChange(flags) && IsReadOnly(PathBelow(directory, path))) {
+    errno = EROFS;
+    return true;
+  }
+  return FailsOn(kCallOpen, path, directory);
 }
 
 template <class Function>
@@ -110,7 +152,7 @@ int open(const char* path, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = ModeArgument(flags, arguments);
   va_end(arguments);
-  return FailsOn(kCallOpen, path) ? -1 : next(path, flags, mode);
+  return FailsToOpen(path, flags) ? -1 : next(path, flags, mode);
 }
 
 int openat(int directory, const char* path, int flags, ...) {
@@ -119,7 +161,7 @@ int openat(int directory, const char* path, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = ModeArgument(flags, arguments);
   va_end(arguments);
-  return FailsOn(kCallOpen, path, directory) ? -1 : next(directory, path, flags, mode);
+  return FailsToOpen(path, flags, directory) ? -1 : next(directory, path, flags, mode);
 }
 
 ssize_t read(int fd, void* data, size_t n) {
@@ -185,6 +227,11 @@ int unlink(const char* path) noexcept {
 int unlinkat(int directory, const char* path, int flags) noexcept {
   static auto* const next = Library<int(int, const char*, int)>("unlinkat");
   return FailsOn(kCallUnlink, path, directory) ? -1 : next(directory, path, flags);
+}
+
+int rmdir(const char* path) noexcept {
+  static auto* const next = Library<int(const char*)>("rmdir");
+  return FailsOn(kCallUnlink, path) ? -1 : next(path);
 }
 
 int rename(const char* from, const char* to) noexcept {

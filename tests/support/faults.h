@@ -27,7 +27,7 @@ enum FaultCall {
   kCallSetMode,
   kCallTruncate,  // ftruncate
   kCallSeek,
-  kCallUnlink,  // also unlinkat, of directories too
+  kCallUnlink,  // also unlinkat and rmdir
   kCallRename,  // also renameat2; by either path
   kCallMakeDirectory,
   kCallMakeLink,  // symlink, by the link's own path
@@ -64,4 +64,19 @@ class Fault {
   FaultPlan plan;
   int calls = 0;
   Fault* older;
+};
+
+// As long as it lives, this process can change nothing outside of a directory: the
+// call fails with EROFS. For tests that press any key at all, and so may come to
+// delete what they were never about. What a child does is not held back, nor what
+// is written through a stream of the library.
+class ReadOnlyOutside {
+ public:
+  explicit ReadOnlyOutside(const std::string& directory);
+  ~ReadOnlyOutside();
+  ReadOnlyOutside(const ReadOnlyOutside&) = delete;
+  ReadOnlyOutside& operator=(const ReadOnlyOutside&) = delete;
+
+ private:
+  std::string prefix;
 };

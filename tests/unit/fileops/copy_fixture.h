@@ -10,6 +10,7 @@
 #include <string>
 
 #include "fileops/copy_file.h"
+#include "support/as_nobody.h"
 #include "support/faults.h"
 #include "unit/scratch_directory.h"
 
@@ -64,21 +65,4 @@ class CopyFixture : public testing::Test {
 
   ScratchDirectory files;
   FileOperation operation;
-};
-
-// Somebody without the superuser's powers, as long as it lives.
-class AsNobody {
- public:
-  explicit AsNobody(const std::string& ownDirectory) {
-    if (getuid() != 0) return;
-    if (chown(ownDirectory.c_str(), kNobody, kNobody) != 0 || seteuid(kNobody) != 0) std::abort();
-    changed = true;
-  }
-  ~AsNobody() {
-    if (changed && seteuid(0) != 0) std::abort();
-  }
-
- private:
-  static constexpr uid_t kNobody = 65534;
-  bool changed = false;
 };

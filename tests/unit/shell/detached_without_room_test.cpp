@@ -35,6 +35,7 @@ TEST(DetachedWithoutRoom, TheProgramRunsAllTheSameAndIsCollected) {
   const std::string pipe = files.Path("pipe");
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   Variables.Load();
+  Variables.Set("SHELL", "/bin/sh");
   LastWithRoom = getpid();
   EXPECT_TRUE(StartDetached(Westring(("echo text > " + pipe).c_str())));
   LastWithRoom = 0;

@@ -16,6 +16,7 @@
 #include <thread>
 
 #include "shell/history_file.h"
+#include "support/as_nobody.h"
 #include "unit/shell/history_fixture.h"
 
 namespace {
@@ -85,28 +86,6 @@ class HistoryCopies : public HistoryFixture {
     }
     return times;
   }
-};
-
-// The superuser may write everything; for a while he is somebody else, who owns
-// the files.
-class AsNobody {
- public:
-  explicit AsNobody(const std::string& files) {
-    if (geteuid() != 0) return;
-    for (const auto& item : fs::recursive_directory_iterator(files))
-      if (lchown(item.path().c_str(), kNobody, kNobody) != 0) abort();
-    if (chown(files.c_str(), kNobody, kNobody) != 0 || seteuid(kNobody) != 0) abort();
-    changed = true;
-  }
-  ~AsNobody() {
-    if (changed && seteuid(0) != 0) abort();
-  }
-  AsNobody(const AsNobody&) = delete;
-  AsNobody& operator=(const AsNobody&) = delete;
-
- private:
-  static constexpr uid_t kNobody = 65534;
-  bool changed = false;
 };
 
 // Over a page, so that a kill can cut the write of a line in two.
