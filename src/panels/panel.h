@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 #include "dialogs/win.h"
@@ -110,5 +111,7 @@ struct PanelHooks {
   // The directory in the panel's tree that is nearest to what was typed. False,
   // with path untouched, if there is none.
   bool (*findInTree)(const TPanel& panel, const Westring& typed, Westring& path) = nullptr;
+  // Alt, Ctrl or Shift went down or up while a panel reads the keys.
+  std::function<void()> modifiersChanged = {};
 };
 extern PanelHooks ThePanelHooks;

@@ -104,6 +104,7 @@ Key WaitForKey(TPanel& panel, TMouseEvent* event) {
   while (key == kModifierKey || key == 0) {
     bool timedOut = false;
     key = ReadKey(timedOut, event, -1);
+    if (key == kModifierKey && ThePanelHooks.modifiersChanged) ThePanelHooks.modifiersChanged();
   }
   Console->SetCursorSize(0);
   DrawCursor(panel.Side(), false);

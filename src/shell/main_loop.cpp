@@ -33,13 +33,17 @@ void PaintCursorBar(Shell& shell) {
   shell.cursorDirty = false;
 }
 
+void PaintBar(Shell& shell) {
+  PaintKeyBar(BarLabels(CurrentModifiers));
+  shell.drawnModifiers = CurrentModifiers;
+}
+
 void PaintLines(Shell& shell) {
   if (CurrentModifiers != shell.drawnModifiers) shell.redrawLevel = kRedrawAll;
   if (shell.redrawLevel == kRedrawNothing) return;
   PaintCommandLine(shell);
   if (shell.redrawLevel < kRedrawAll) return;
-  PaintKeyBar(BarLabels(CurrentModifiers));
-  shell.drawnModifiers = CurrentModifiers;
+  PaintBar(shell);
   ShowPathInAppTitle();
 }
 
@@ -58,6 +62,7 @@ void ReadNextKey(Shell& shell) {
 }  // namespace
 
 void RunMainLoop(Shell& shell) {
+  ThePanelHooks.modifiersChanged = [&shell] { PaintBar(shell); };
   while (!shell.quit) {
     if (ShowPanels(true)) shell.cursorDirty = true;
     ShowClock();
@@ -68,4 +73,5 @@ void RunMainLoop(Shell& shell) {
     shell.keyPending = false;
     DispatchKey(shell);
   }
+  ThePanelHooks.modifiersChanged = nullptr;
 }

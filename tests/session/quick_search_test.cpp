@@ -70,6 +70,17 @@ TEST(StickySearch, TheTextCursorOfALongTextStandsAtTheListsBorder) {
   EXPECT_EQ(s.Cursor(), std::make_pair(1 + kInner, kStatusRow));
 }
 
+TEST_F(Sticky, TheKeyBarFollowsTheModifiersDuringIt) {
+  const std::string plain = s.Row(s.Rows() - 1).String();
+  s.Keys("+Alt Alt-a");
+  EXPECT_NE(s.Row(s.Rows() - 1).String(), plain);
+  s.Keys("-Alt");
+  EXPECT_EQ(s.Row(s.Rows() - 1).String(), plain);
+  EXPECT_EQ(Status(s), "Search: a");
+  s.Keys("Down +Alt -Alt");
+  EXPECT_EQ(s.Row(s.Rows() - 1).String(), plain);
+}
+
 TEST_F(Sticky, EscEndsItAndDoesNothingElse) {
   s.Keys("l s Alt-a b Esc");
   EXPECT_EQ(s.Under(kLeftSide), "Abby");
