@@ -12,6 +12,7 @@ endif()
 
 install(TARGETS orvane RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT program)
 install(FILES ${orvaneHelpFile} DESTINATION ${orvaneShareDir} COMPONENT data)
+install(FILES data/syntax.ini DESTINATION ${orvaneShareDir} COMPONENT data)
 install(DIRECTORY data/manual/ DESTINATION ${orvaneDocDir}manual COMPONENT data FILES_MATCHING PATTERN "*.html")
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${orvaneDocDir} COMPONENT data)
 install(FILES data/icons/orvane.png DESTINATION ${orvaneIconDir}16x16/apps COMPONENT data)
@@ -21,7 +22,7 @@ install(FILES data/orvane.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT d
 
 if(ORVANE_STAGED)
   set(staged ${CMAKE_BINARY_DIR}/staged)  # its time says when the copy was made
-  file(GLOB shipped CONFIGURE_DEPENDS data/manual/* data/icons/* data/orvane.* README.md CHANGELOG.md LICENSE)
+  file(GLOB shipped CONFIGURE_DEPENDS data/manual/* data/icons/* data/orvane.* data/syntax.ini README.md CHANGELOG.md LICENSE)
   add_custom_command(
     OUTPUT ${staged}
     COMMAND ${CMAKE_COMMAND} --install ${CMAKE_BINARY_DIR} --prefix ${CMAKE_BINARY_DIR}/stage > ${staged}.log

@@ -1,12 +1,6 @@
-// The function-key bar: eight sets of labels, one for each state of the
-// modifiers.
+// The main screen's function-key bar: eight sets of labels, one for each state of
+// the modifiers.
 #include "shell/key_bar.h"
-
-#include <algorithm>
-
-#include "config/values/colours.h"
-#include "config/values/options.h"
-#include "console/console.h"
 
 namespace {
 
@@ -31,32 +25,8 @@ const char* const* BarLabels(uint32_t modifiers) {
   return kLabels[index];
 }
 
-CellString BuildKeyBar(const char* const* labels, int columns) {
-  const int cell = columns / kBarKeys;
-  CellString row;
-  row.attribute = Options::Colours[kColourMenuBar];
-  row.SetLength(kBarKeys * cell);
-  if (cell == 0) return row;  // a screen too narrow for any key
-  const uint8_t gap = Options::Colours[kColourCommandLine];
-  for (int i = 0; i < kBarKeys; ++i) {
-    const int start = i * cell;
-    row[start].attribute = gap;
-    if (i > 0) row[start - 1].attribute = gap;
-    if (i == kBarKeys - 1 && cell > 1) row[start + 1].attribute = gap;
-    for (int k = 0; labels[i][k] && k < cell; ++k) row[start + k].character = labels[i][k];
-  }
-  return row;
-}
-
-void PaintKeyBar(const char* const* labels) {
-  CellString row = BuildKeyBar(labels, ScreenColumns);
-  row.Terminate();
-  Console->PutCells(0, ScreenRows - 1, row.Cells());
-}
-
 Key BarKey(const TMouseEvent& mouse, int columns) {
-  const int cell = std::max(1, columns / kBarKeys);
-  const int index = std::min((mouse.x + 1) / cell, kBarKeys - 1);
+  const int index = BarIndex(mouse.x, columns);
   if (mouse.kind == kMouseRightPress || mouse.kind == kMouseRightRelease || mouse.modifiers & kModAlt)
     return AltFKey(index + 1);
   if (mouse.modifiers & kModShift) return ShiftFKey(index + 1);

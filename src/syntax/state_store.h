@@ -1,0 +1,27 @@
+// States at places of a file, from which colouring can go on.
+#pragma once
+
+#include <memory>
+
+#include "syntax/highlighter.h"
+
+struct TPositionSyntaxState {
+  int64_t Position;  // bytes
+  CContextStack State;
+};
+
+class CSyntaxStateStore : public TSortedCollection<TPositionSyntaxState, int64_t> {
+ public:
+  CSyntaxStateStore() { Reset(); }
+  ~CSyntaxStateStore() override { Clear(); }
+
+  void Reset();  // to the empty stack at position 0
+  // Copies stack; what is known of a position stays.
+  void Remember(int64_t position, const CContextStack& stack);
+  // The last one at or before position; null if there is none.
+  TPositionSyntaxState* Find(int64_t position);
+
+ protected:
+  const int64_t* KeyOf(const TPositionSyntaxState* item) const override { return &item->Position; }
+  int CompareKeys(const int64_t* a, const int64_t* b) const override { return *a < *b ? -1 : *a > *b; }
+};

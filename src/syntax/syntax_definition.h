@@ -1,0 +1,82 @@
+// How the files of one kind are coloured, as the syntax file tells it. All items
+// stand in the order of the file: it decides which one wins.
+#pragma once
+
+#include <bitset>
+
+#include "foundation/collections.h"
+#include "syntax/syntax_element.h"
+
+using ByteSet = std::bitset<256>;  // of characters, by their low byte
+
+// Words, found by binary search; with or without case.
+class WordCollection : public WestringCollection {
+ public:
+  bool CaseSensitive = true;
+
+ protected:
+  int CompareKeys(const Westring* a, const Westring* b) const override;
+};
+
+class SyntaxWordList : public WordCollection {
+ public:
+  uint8_t Colour = 0;
+  CSyntaxContext Context;
+};
+
+struct SyntaxSymbolList {
+  uint8_t Colour = 0;
+  CSyntaxContext Context;
+  ByteSet Symbols;
+};
+
+struct SyntaxNumber {
+  CSyntaxContext Context;
+  uint8_t Colour = 0;
+};
+
+enum SyntaxAction { kSyntaxPush = 0, kSyntaxPop = 1, kSyntaxChange = 2 };
+
+class CSyntaxStateChange {
+ public:
+  uint8_t Colour = 0;
+  CSyntaxContext Context;
+  Westring Trigger;
+  int Action = kSyntaxChange;
+  Estring TargetName;
+  CSyntaxElement* Target = nullptr;  // looked up at the first use; the definition's
+  bool CaseSensitive = true;
+};
+
+class CSyntaxDefinition {
+ public:
+  CSyntaxDefinition();
+  CSyntaxDefinition(const CSyntaxDefinition&) = delete;
+  CSyntaxDefinition& operator=(const CSyntaxDefinition&) = delete;
+
+  // Reads the sections of a syntax file that are for files called so, and adds
+  // them to what is there. True if there was one. A missing file is no concern;
+  // what else can't be opened is told in a message box.
+  bool Load(const Westring& iniPath, const Westring& fileName);
+
+  uint8_t DefaultColour;  // of plain text; the viewer's at first
+  ByteSet WordChars;      // letters and digits of ASCII at first
+  TObjectStore<SyntaxWordList> WordLists;
+  TObjectStore<SyntaxSymbolList> SymbolLists;
+  TObjectStore<SyntaxNumber> Numbers;
+  TObjectStore<CSyntaxElement> Elements;
+  TObjectStore<CSyntaxStateChange> StateChanges;
+  wchar_t DefaultEscape = 0;  // of the strings that follow; 0 for none
+  KeyedValueSet ColourClasses;
+};
+
+// One line inside a section that applies; a malformed one is passed over. For the
+// loader, and for tests of single lines.
+void AddDefinitionLine(CSyntaxDefinition& definition, const char* line);
+
+// The attribute that a text such as "bright red on black" names, starting from
+// base.
+uint8_t ParseColourText(const char* text, uint8_t base);
+
+// The user's syntax file, or the system's where he has none.
+Westring FindSyntaxFile();
