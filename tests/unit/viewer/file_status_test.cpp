@@ -26,7 +26,10 @@ TEST(FileStatus, ANewRecordHasZerosAndNoBookmarks) {
 TEST(FileStatus, UndoIsKeptAsACopyOfItsOwn) {
   FileStatusStore store;
   TUndoStack stack;
-  stack.Append(new UndoItem{.Text = L"gone", .Before = {1, 2}, .After = {3, 4}});
+  UndoItem* const item = new UndoItem;
+  item->Text = L"gone";
+  item->After = {3, 4};
+  stack.Append(item);
   store.Record(L"/a").Undo.CopyFrom(stack);
   stack.Clear();
   const TUndoStack& kept = store.Record(L"/a").Undo;
