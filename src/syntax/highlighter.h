@@ -36,6 +36,10 @@ class CSyntaxHighlighter : public CContextStack {
   // Reads the syntax file for a file of that name; sets Active.
   void Load(const Westring& iniPath, const Westring& fileName);
 
+  // Drops the definition of the file before. States that were remembered of it
+  // have to be gone by then.
+  void Forget();
+
   CSyntaxDefinition Definition;
   bool Active = false;
 };

@@ -4,14 +4,19 @@
 
 #include <bitset>
 
+#include "dialogs/prompt.h"
 #include "foundation/collections.h"
 #include "syntax/syntax_element.h"
+#include "syntax/syntax_reader.h"
 
 using ByteSet = std::bitset<256>;  // of characters, by their low byte
 
-// Words, found by binary search; with or without case.
+// Words, found by binary search; with or without case, which is set first.
 class WordCollection : public WestringCollection {
  public:
+  void AddWords(const Westring& text);  // those between the blanks of text
+  bool Holds(const wchar_t* word, int length) const;
+
   bool CaseSensitive = true;
 
  protected:
@@ -57,7 +62,9 @@ class CSyntaxDefinition {
   // Reads the sections of a syntax file that are for files called so, and adds
   // them to what is there. True if there was one. A missing file is no concern;
   // what else can't be opened is told in a message box.
-  bool Load(const Westring& iniPath, const Westring& fileName);
+  bool Load(const Westring& iniPath, const Westring& fileName, const SyntaxComplaint& ask = Prompt);
+
+  void Clear();  // to what it was before the first load
 
   uint8_t DefaultColour;  // of plain text; the viewer's at first
   ByteSet WordChars;      // letters and digits of ASCII at first
@@ -69,6 +76,9 @@ class CSyntaxDefinition {
   wchar_t DefaultEscape = 0;  // of the strings that follow; 0 for none
   KeyedValueSet ColourClasses;
 };
+
+// No file needs as many items, and more of them would make colouring slow.
+constexpr int kMostSyntaxItems = 5000;
 
 // One line inside a section that applies; a malformed one is passed over. For the
 // loader, and for tests of single lines.

@@ -29,8 +29,13 @@ class CSyntaxLineComment : public CSyntaxElement {
   bool MatchStart(const wchar_t* text, const CSyntaxElement* current, int& length) const override;
   bool MatchEnd(const wchar_t*, int&) const override { return false; }
 
-  Estring Start;
+  void SetStart(const Estring& text);
+
+  Estring Start;  // UTF-8
   bool CaseSensitive = true;
+
+ private:
+  Westring start;  // the same, as lines are compared with it
 };
 
 // Block comments, and the states that contexts refer to.
