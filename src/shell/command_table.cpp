@@ -22,6 +22,7 @@
 #include "shell/scrollback_viewer.h"
 #include "shell/search_commands.h"
 #include "shell/select_commands.h"
+#include "shell/view_commands.h"
 
 namespace {
 
@@ -220,8 +221,8 @@ constexpr CommandRow kCommands[] = {
     {FKey(2), 0, nullptr},
     {ShiftFKey(2), 0, nullptr},
     {FKey(3), kPanelShown | kFilesPanel, ViewEntry},
-    {AltFKey(3), kPanelShown | kFilesPanel, ViewEntry},
-    {ShiftFKey(3), 0, nullptr},
+    {AltFKey(3), kPanelShown | kFilesPanel, ViewEntryElsewhere},
+    {ShiftFKey(3), kNoArchive, ViewNamed},
     {FKey(4), 0, nullptr},
     {AltFKey(4), 0, nullptr},
     {CtrlShiftFKey(4), 0, nullptr},

@@ -26,7 +26,9 @@
 #include "shell/history_file.h"
 #include "shell/main_loop.h"
 #include "shell/screen.h"
+#include "shell/spawn.h"
 #include "shell/temp_names.h"
+#include "shell/view_commands.h"
 
 namespace {
 
@@ -109,17 +111,14 @@ void ClosePanels(const Arguments& arguments) {
   if (!arguments.exitScript.IsEmpty()) WriteExitScript(arguments.exitScript, scriptPath);
 }
 
-void RefuseInternalTool(const char* what) {
-  fprintf(stderr, "orvane: the internal %s is not part of this version\n", what);
-}
-
 // Where both are asked for, the viewer comes first.
 int RunInternalTools(const Arguments& arguments) {
-  if (!arguments.viewFile.IsEmpty()) RefuseInternalTool("viewer");
-  if (!arguments.editFile.IsEmpty()) RefuseInternalTool("editor");
+  const bool edits = !arguments.editFile.IsEmpty();
+  if (!arguments.viewFile.IsEmpty()) ViewPath(arguments.viewFile);
+  if (edits) fputs("orvane: the internal editor is not part of this version\n", stderr);
   Console->SetCursor(0, ScreenRows - 1);
   Console->SetCursorSize(kLineCursorSize);
-  return 1;
+  return edits ? 1 : 0;
 }
 
 int RunWithConsole(int argc, char** argv) {
@@ -142,6 +141,7 @@ int RunWithConsole(int argc, char** argv) {
   LoadHistory();
   KeepDialogEntry = AppendDialogEntryToFile;
   TheCopyHooks.chooseFromHistory = ChooseFromDirectoryHistory;
+  TheBuiltIns.view = ViewPath;
   OpenPanels(arguments);
   Shell shell;
   IdleHook = UpdateClock;
@@ -150,6 +150,7 @@ int RunWithConsole(int argc, char** argv) {
   IdleHook = nullptr;
   KeepDialogEntry = nullptr;
   TheCopyHooks = {};
+  TheBuiltIns = {};
   return 0;
 }
 

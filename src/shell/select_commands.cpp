@@ -61,7 +61,3 @@ int CountSizes(Shell&) {
   CalculateDirSizes(ActivePanel(), false);
   return kRedrawNothing;
 }
-
-int ViewEntry(Shell& shell) {
-  return shell.currentEntry && shell.currentEntry->IsDirectory() ? CountSizes(shell) : kRedrawNothing;
-}

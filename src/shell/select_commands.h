@@ -16,5 +16,3 @@ int TagAllEntries(Shell& shell);
 int ClearAllTags(Shell& shell);
 int RestoreTags(Shell& shell);
 int CountSizes(Shell& shell);
-// Of what is viewed, a directory shows its size.
-int ViewEntry(Shell& shell);
