@@ -33,6 +33,7 @@ int SystemFlags(uint32_t flags) {
   if ((flags & kOpenWrite) && !(flags & kOpenAppend)) result |= O_TRUNC;
   if (flags & kOpenCreate) result |= O_CREAT;
   if (!(flags & kOpenKeepOnExec)) result |= O_CLOEXEC;
+  if (flags & kOpenNoWait) result |= O_NONBLOCK;
   return result;
 }
 

@@ -16,6 +16,7 @@ enum OpenFlags : uint32_t {
   kOpenKeepOnExec = 16,  // otherwise closed across exec
   kOpenText = 32,        // PutText writes "\r\n" for "\n"
   kOpenExecutable = 64,  // a new file gets mode 0775, otherwise 0664
+  kOpenNoWait = 128,     // for nobody at a FIFO's other end, nor for a device's next bytes
 };
 
 // Every operation returns 0 or errno and keeps it in Error(). A read past the
@@ -63,6 +64,9 @@ class StdFile {
 
   static constexpr int kBufferSize = 4096;
 
+ protected:
+  int Fail(int code) { return error = code; }
+
  private:
   int OpenFile(const char* bytes, const Westring& path, uint32_t flags);
   int SwitchToReading();
@@ -72,7 +76,6 @@ class StdFile {
   int FlushBuffer();
   int ReadBytes(char* target, size_t n, size_t& got);  // -1 if the file ends first
   int WriteBytes(const char* data, size_t n);
-  int Fail(int code) { return error = code; }
 
   int32_t fd = 0;
   int32_t error = 0;

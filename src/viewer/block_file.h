@@ -16,14 +16,15 @@ class CBlockFile : public StdFile {
   CBlockFile();
   ~CBlockFile();
 
-  // 0 or errno; a directory is EISDIR. Takes the size and starts the reading ahead.
+  // 0 or errno; a directory is EISDIR, and what has no bytes at offsets, a FIFO or
+  // a terminal, is EOPNOTSUPP. Never waits.
   int Open(const Westring& path);
-  void Close();
+  int Close();
 
   // 0 to 255, or -1 at and past the end of the file and where nothing can be read.
   int ByteAt(int64_t offset) {
     const int64_t inBlock = offset - firstOffset;
-    if (inBlock >= 0 && inBlock < kBlockSize && offset < FileSize) return firstBytes[inBlock];
+    if (inBlock >= 0 && inBlock < firstCount) return firstBytes[inBlock];
     return ByteElsewhere(offset);
   }
 
@@ -37,14 +38,29 @@ class CBlockFile : public StdFile {
   int64_t FileSize = 0;     // raised by what is read, never lowered while open
   bool RereadTail = false;  // a request past the end looks whether the file grew
 
+ protected:
+  // The last place up to offset that has readable bytes before it, as far as one
+  // look tells: the end of a file that has become shorter, the start of a block
+  // that cannot be read.
+  int64_t ReadableEnd(int64_t offset);
+
  private:
   struct Block;
 
   int ByteElsewhere(int64_t offset);
+  int FindBlock(int64_t blockOffset) const;
+  int TakeBlock(int64_t blockOffset);
+  bool HasGrownTo(int64_t offset, const Block& block) const;
+  void Read(Block& block, bool mayBeAhead);
+  void MoveToFront(int slot);
+  void ReadOn();
 
-  int64_t firstOffset = -kBlockSize;  // of the block used last
+  int64_t firstOffset = -kBlockSize;  // of the block used last, which is blocks[0]
+  int firstCount = 0;                 // bytes that it has
   const uint8_t* firstBytes = nullptr;
-  std::array<std::unique_ptr<Block>, kMostBlocks> blocks;
+  std::array<std::unique_ptr<Block>, kMostBlocks> blocks;  // used last first
   int blockCount = 0;
+  bool hadToWait = false;  // the last block came from the device, not from memory
+  bool tellsSize = false;  // not so a file that is made while it is read
   std::unique_ptr<ReadAhead> readAhead;
 };

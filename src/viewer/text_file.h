@@ -31,9 +31,11 @@ class CTextFile : public CBlockFile {
   // at the beginning counts.
   int Open(const Westring& path);
 
-  // The character at Position, which moves behind it; -1 at the end of the file.
+  // The character at Position, which moves behind it; -1 at the end of the file,
+  // where a character that is cut off there is passed over.
   int GetChar();
-  // The character before Position, which moves onto it; -1 at the beginning.
+  // The character before Position, which moves onto it; -1 at the beginning, which
+  // leaves Position negative, and where nothing can be read.
   int PrevChar();
 
   // The line from Position on without its end, zero-ended and valid until the next
@@ -49,11 +51,11 @@ class CTextFile : public CBlockFile {
                       int codePage);
 
   int BytesPerUnit() const;  // 1 for UTF-8
+  bool BigEndian() const { return Encoding == kUtf32Big || Encoding == kUtf16Big; }
 
   int Encoding = kUnknownEncoding;
   int CodePage;  // for kCodePageText
   bool HasBOM = false;
-  bool BigEndian = false;
   int LineEndStyle = kLineEndUnknown;
   bool EndedInTerminator = false;  // the line read last
   bool KeepNul = true;             // a zero is read as it is, not as a blank
@@ -64,9 +66,17 @@ class CTextFile : public CBlockFile {
  private:
   void DetectEncoding();
   void PrepareCodePage();
+  int NextByte();
+  int NextUtf8();
+  int NextUnit();
+  bool StepBack();
+  bool EnlargeLine();
+  int TakePlainBytes(int length, int most);
+  int TakeCharacters(int& length, int most);
+  void TakeTerminators(int first);
 
   std::unique_ptr<wchar_t[]> line;
-  int lineCapacity;
+  int lineCapacity = 0;
   Westring translation;  // the 256 characters of translationPage
-  int translationPage = -1;
+  int translationPage = 0;
 };
