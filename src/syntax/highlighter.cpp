@@ -3,6 +3,7 @@
 #include "syntax/highlighter.h"
 
 #include <algorithm>
+#include <cwchar>
 
 #include "config/values/options.h"
 
@@ -205,11 +206,10 @@ void CSyntaxHighlighter::RenderLine(const wchar_t* text, CellString& cells) {
 }
 
 void CSyntaxHighlighter::Load(const Westring& iniPath, const Westring& fileName) {
+  if (wcscmp(fileName.Text(), loadedFor.Text()) != 0) {
+    Clear();
+    Definition.Clear();
+    loadedFor = fileName;
+  }
   Active = Definition.Load(iniPath, fileName);
-}
-
-void CSyntaxHighlighter::Forget() {
-  Clear();
-  Definition.Clear();
-  Active = false;
 }

@@ -33,13 +33,14 @@ class CSyntaxHighlighter : public CContextStack {
   // goes on to the state behind it.
   void RenderLine(const wchar_t* text, CellString& cells);
 
-  // Reads the syntax file for a file of that name; sets Active.
+  // Reads the syntax file for a file of that name; sets Active. The name of the
+  // last load again adds to the definition; another one drops what was loaded
+  // and the stack, and states that were remembered of it have to be gone by then.
   void Load(const Westring& iniPath, const Westring& fileName);
-
-  // Drops the definition of the file before. States that were remembered of it
-  // have to be gone by then.
-  void Forget();
 
   CSyntaxDefinition Definition;
   bool Active = false;
+
+ private:
+  Westring loadedFor;
 };

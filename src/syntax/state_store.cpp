@@ -1,16 +1,50 @@
 // Checkpoints of the colouring.
 #include "syntax/state_store.h"
 
+#include <vector>
+
+namespace {
+
+using Checkpoint = std::unique_ptr<TPositionSyntaxState>;
+
+// What an entry takes beside the pointers of its stack, counted in pointers.
+constexpr int64_t kEntryWeight = 20;
+
+int64_t WeightOf(const CContextStack& stack) { return kEntryWeight + stack.Count(); }
+
+Checkpoint MakeCheckpoint(int64_t position, const CContextStack& stack) {
+  auto checkpoint = std::make_unique<TPositionSyntaxState>();
+  checkpoint->Position = position;
+  checkpoint->State.CopyStack(stack);
+  return checkpoint;
+}
+
+}  // namespace
+
 void CSyntaxStateStore::Reset() {
   Clear();
+  weight = 0;
   Remember(0, CContextStack());
 }
 
 void CSyntaxStateStore::Remember(int64_t position, const CContextStack& stack) {
-  auto checkpoint = std::make_unique<TPositionSyntaxState>();
-  checkpoint->Position = position;
-  checkpoint->State.CopyStack(stack);
-  if (Insert(checkpoint.get()) >= 0) checkpoint.release();
+  Checkpoint checkpoint = MakeCheckpoint(position, stack);
+  if (Insert(checkpoint.get()) < 0) return;
+  checkpoint.release();
+  weight += WeightOf(stack);
+  if (weight > kMostWeight) Thin();
+}
+
+// The first one, which stands for the beginning of the file, stays.
+void CSyntaxStateStore::Thin() {
+  std::vector<Checkpoint> kept;
+  weight = 0;
+  for (int64_t i = 0; i < Count(); i += 2) {
+    kept.push_back(MakeCheckpoint(Peek(i)->Position, Peek(i)->State));
+    weight += WeightOf(kept.back()->State);
+  }
+  Clear();
+  for (Checkpoint& checkpoint : kept) AppendUnsorted(checkpoint.release());
 }
 
 TPositionSyntaxState* CSyntaxStateStore::Find(int64_t position) { return FindAtOrBefore(&position); }

@@ -15,6 +15,10 @@ class CSyntaxStateStore : public TSortedCollection<TPositionSyntaxState, int64_t
   CSyntaxStateStore() { Reset(); }
   ~CSyntaxStateStore() override { Clear(); }
 
+  // A way through a file of any size leaves one at each line. When there are too
+  // many, every second one goes: to colour from the one before takes longer then.
+  static constexpr int64_t kMostWeight = 1 << 20;  // pointers, about 8 MB
+
   void Reset();  // to the empty stack at position 0
   // Copies stack; what is known of a position stays.
   void Remember(int64_t position, const CContextStack& stack);
@@ -24,4 +28,9 @@ class CSyntaxStateStore : public TSortedCollection<TPositionSyntaxState, int64_t
  protected:
   const int64_t* KeyOf(const TPositionSyntaxState* item) const override { return &item->Position; }
   int CompareKeys(const int64_t* a, const int64_t* b) const override { return *a < *b ? -1 : *a > *b; }
+
+ private:
+  void Thin();
+
+  int64_t weight = 0;
 };
