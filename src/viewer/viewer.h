@@ -163,7 +163,7 @@ class CViewer : public CTextFile {
   bool topLoaded = false;
   bool topExists = false;           // false where the file ends before the top
   std::vector<ScreenRow> rowStarts;  // of a text
-  int64_t longLineEnd = 0;          // the line from LongLineStart has no end before it
+  int64_t longLineEnd = 0;           // the line from LongLineStart has no end before it
   int longLineEncoding = kUnknownEncoding;
 
  private:
