@@ -35,13 +35,17 @@ void CSyntaxStateStore::Remember(int64_t position, const CContextStack& stack) {
   if (weight > kMostWeight) Thin();
 }
 
-// The first one, which stands for the beginning of the file, stays.
+// Leaves at most half of them, so far apart everywhere. The first one, which stands
+// for the beginning of the file, stays.
 void CSyntaxStateStore::Thin() {
+  const int64_t spacing = Peek(Count() - 1)->Position / (Count() / 2) + 1;
   std::vector<Checkpoint> kept;
   weight = 0;
-  for (int64_t i = 0; i < Count(); i += 2) {
-    kept.push_back(MakeCheckpoint(Peek(i)->Position, Peek(i)->State));
-    weight += WeightOf(kept.back()->State);
+  for (int64_t i = 0; i < Count(); ++i) {
+    const TPositionSyntaxState& checkpoint = *Peek(i);
+    if (i > 0 && checkpoint.Position - kept.back()->Position < spacing) continue;
+    kept.push_back(MakeCheckpoint(checkpoint.Position, checkpoint.State));
+    weight += WeightOf(checkpoint.State);
   }
   Clear();
   for (Checkpoint& checkpoint : kept) AppendUnsorted(checkpoint.release());

@@ -16,13 +16,14 @@ class CSyntaxStateStore : public TSortedCollection<TPositionSyntaxState, int64_t
   ~CSyntaxStateStore() override { Clear(); }
 
   // A way through a file of any size leaves one at each line. When there are too
-  // many, every second one goes: to colour from the one before takes longer then.
+  // many, what is left is spread evenly: colouring from the one before takes longer.
   static constexpr int64_t kMostWeight = 1 << 20;  // pointers, about 8 MB
 
   void Reset();  // to the empty stack at position 0
   // Copies stack; what is known of a position stays.
   void Remember(int64_t position, const CContextStack& stack);
-  // The last one at or before position; null if there is none.
+  // The last one at or before position; null if there is none. Valid until the
+  // next Remember().
   TPositionSyntaxState* Find(int64_t position);
 
  protected:
