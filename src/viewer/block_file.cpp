@@ -132,7 +132,7 @@ void CBlockFile::Read(Block& block, bool mayBeAhead) {
   if (!mayBeAhead || !readAhead || !readAhead->Take(block.offset, block.bytes, read))
     read = ReadBlock(Descriptor(), block.offset, block.bytes.get(), kBlockSize);
   block.count = read.count;
-  hadToWait = read.waited;
+  wasLong = read.wasLong;
   FileSize = std::max(FileSize, block.offset + block.count);
   block.fileSizeThen = FileSize;
   if (block.offset == firstOffset) firstCount = block.count;
@@ -142,9 +142,9 @@ void CBlockFile::MoveToFront(int slot) {
   std::rotate(blocks.begin(), blocks.begin() + slot, blocks.begin() + slot + 1);
 }
 
-// Waking the thread costs more than reading what the system has in memory.
+// What the system has in memory is read faster than a thread wakes.
 void CBlockFile::ReadOn() {
-  if (!hadToWait) return;
+  if (!wasLong) return;
   const int64_t before = blockCount > 1 ? blocks[1]->offset : -1;
   const int64_t next = NextBlockOffset(before, blocks[0]->offset, kBlockSize);
   if (next < 0 || next >= FileSize) return;

@@ -60,7 +60,7 @@ class CBlockFile : public StdFile {
   const uint8_t* firstBytes = nullptr;
   std::array<std::unique_ptr<Block>, kMostBlocks> blocks;  // used last first
   int blockCount = 0;
-  bool hadToWait = false;  // the last block came from the device, not from memory
+  bool wasLong = false;    // the last read of a block
   bool tellsSize = false;  // not so a file that is made while it is read
   std::unique_ptr<ReadAhead> readAhead;
 };

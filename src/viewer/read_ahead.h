@@ -10,10 +10,11 @@
 
 using BlockBytes = std::unique_ptr<uint8_t[]>;
 
-// What a read came to: how many bytes, and whether they had to be waited for.
+// What a read came to: how many bytes, and whether it took so long that the next
+// one is better made by a thread.
 struct BlockRead {
   int count = 0;
-  bool waited = false;
+  bool wasLong = false;
 };
 
 // Reads size bytes at offset, fewer at the end of the file and where it fails.

@@ -94,6 +94,13 @@ int CTextFile::NextUnit() {
 
 // A character that the file's end cuts off is none, neither forward nor here.
 int CTextFile::PrevChar() {
+  if (Encoding == kUtf8) {
+    const int byte = ByteAt(Position - 1);
+    if (byte >= 0 && byte < 0x80) {
+      --Position;
+      return byte;
+    }
+  }
   while (StepBack()) {
     const int64_t start = Position;
     const int character = GetChar();
