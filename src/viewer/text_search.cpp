@@ -38,6 +38,7 @@ class CharacterSearch {
   enum class Rest { Hit, Differs, PartOfWord, EndOfFile };
 
   int Read() { return reverse ? file.PrevChar() : file.GetChar(); }
+  int ReadBehind();
   bool IsBehindWord();
   bool IsInFrontOfWord();
   bool Equals(int ch, int i) const { return (caseSensitive ? ch : FoldChar(ch)) == pattern[i]; }
@@ -52,12 +53,19 @@ class CharacterSearch {
   int lastRead = kEnd;
 };
 
-// Whether the character on the other side of Position, the one read before,
-// belongs to a word.
+// The character on the other side of Position, the one read before. Backward, the
+// reader would leave a start between two units for the units' true places.
+int CharacterSearch::ReadBehind() {
+  if (reverse) return file.GetChar();
+  if (file.Encoding == kUtf8) return file.Position > 0 ? file.PrevChar() : kEnd;
+  file.Position -= file.BytesPerUnit();
+  return file.Position >= 0 ? file.GetChar() : kEnd;
+}
+
 bool CharacterSearch::IsBehindWord() {
   if (!wholeWord) return false;
   const int64_t position = file.Position;
-  const int ch = reverse ? file.GetChar() : position > 0 ? file.PrevChar() : kEnd;
+  const int ch = ReadBehind();
   file.Position = position;
   return IsWordChar(ch);
 }
