@@ -109,7 +109,7 @@ testing::AssertionResult Languages::Coloured(const std::string& fileName, const 
 
 std::vector<std::string> Languages::Marks(const std::string& fileName, const std::vector<std::string>& text) {
   CSyntaxHighlighter highlighter;
-  highlighter.Load(SyntaxFile(), Westring(fileName.c_str()));
+  LoadFor(fileName, highlighter);
   const std::map<uint8_t, char> known = MarksByAttribute(Options::Colours[kColourFileViewer]);
   std::vector<std::string> marks;
   for (const std::string& line : text) {
@@ -127,6 +127,10 @@ std::vector<std::string> Languages::Marks(const std::string& fileName, const std
 
 bool Languages::HasDefinition(const std::string& fileName) {
   CSyntaxHighlighter highlighter;
-  highlighter.Load(SyntaxFile(), Westring(fileName.c_str()));
+  LoadFor(fileName, highlighter);
   return highlighter.Active;
+}
+
+void Languages::LoadFor(const std::string& fileName, CSyntaxHighlighter& highlighter) {
+  highlighter.Load(SyntaxFile(), Westring(fileName.c_str()));
 }

@@ -48,6 +48,7 @@ class Languages : public testing::Test {
   // The marks of the text's lines, the first line starting at the top level.
   std::vector<std::string> Marks(const std::string& fileName, const std::vector<std::string>& text);
   bool HasDefinition(const std::string& fileName);
+  void LoadFor(const std::string& fileName, CSyntaxHighlighter& highlighter);
 
  private:
   Westring SyntaxFile() const { return Westring(scratch.Path("syntax.ini").c_str()); }
