@@ -169,6 +169,11 @@ ssize_t read(int fd, void* data, size_t n) {
   return FailsOn(kCallRead, fd) ? -1 : next(fd, data, n);
 }
 
+ssize_t pread(int fd, void* data, size_t n, off_t offset) {
+  static auto* const next = Library<ssize_t(int, void*, size_t, off_t)>("pread");
+  return FailsOn(kCallRead, fd) ? -1 : next(fd, data, n, offset);
+}
+
 ssize_t write(int fd, const void* data, size_t n) {
   static auto* const next = Library<ssize_t(int, const void*, size_t)>("write");
   return FailsOn(kCallWrite, fd) ? -1 : next(fd, data, n);

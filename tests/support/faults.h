@@ -18,7 +18,7 @@
 
 enum FaultCall {
   kCallOpen,  // also openat
-  kCallRead,
+  kCallRead,  // also pread
   kCallWrite,
   kCallKernelCopy,  // copy_file_range, by either file
   kCallClose,       // which has closed all the same
