@@ -1,10 +1,14 @@
 // Pascal: two kinds of comments.
 #include "unit/syntax/languages/language_fixture.h"
 
-TEST_F(Languages, PascalCommentsOfBothKindsNest) {
+TEST_F(Languages, PascalCommentsOfEitherKindNestInThemselves) {
   EXPECT_TRUE(Coloured("a.pas", R"(
-{ a { b } (* c } *) begin } begin (* a { *) } begin *) end // end
-ccccccccccccccccccccccccccc kkkkk cccccccccccccccccccc kkk cccccc
+{ a { b } begin } begin (* a (* b *) begin *) end // end {
+ccccccccccccccccc kkkkk ccccccccccccccccccccc kkk cccccccc
+{ a (* b } begin (* a { b *) end { begin
+cccccccccc kkkkk ccccccccccc kkk ccccccc
+  *) } end
+cccccc kkk
 )"));
 }
 
