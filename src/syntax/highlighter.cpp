@@ -83,8 +83,7 @@ bool LineRenderer::TakeEnd() {
 
 bool LineRenderer::TakeStart() {
   int length = 0;
-  for (int i = 0; i < definition.Elements.Count(); ++i) {
-    CSyntaxElement* element = definition.Elements.Peek(i);
+  for (CSyntaxElement* element : definition.ElementsAt(*p)) {
     if (!element->MatchStart(p, top, length)) continue;
     Output(length, element->Colour);
     stack.Push(element);
@@ -94,11 +93,10 @@ bool LineRenderer::TakeStart() {
 }
 
 bool LineRenderer::TakeStateChange() {
-  for (int i = 0; i < definition.StateChanges.Count(); ++i) {
-    CSyntaxStateChange& change = *definition.StateChanges.Peek(i);
-    if (!StandsAt(p, change.Trigger, change.CaseSensitive) || !change.Context.ValidIn(top)) continue;
-    Apply(change);
-    Output(Length(change.Trigger), change.Colour);
+  for (CSyntaxStateChange* change : definition.StateChangesAt(*p)) {
+    if (!StandsAt(p, change->Trigger, change->CaseSensitive) || !change->Context.ValidIn(top)) continue;
+    Apply(*change);
+    Output(Length(change->Trigger), change->Colour);
     return true;
   }
   return false;
@@ -199,6 +197,7 @@ void CSyntaxHighlighter::RenderLine(const wchar_t* text, CellString& cells) {
   cells.SetLength(0);
   cells.attribute = Definition.DefaultColour;
   if (Active) {
+    Definition.IndexStarts();
     LineRenderer(*this, Definition, text, cells).Run();
   } else {
     for (; *text; ++text) PutChar(cells, *text, Definition.DefaultColour);

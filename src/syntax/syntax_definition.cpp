@@ -105,6 +105,15 @@ void CSyntaxDefinition::Clear() {
   Elements.Clear();
   DefaultEscape = 0;
   ColourClasses.Clear();
+  IndexStarts();
+}
+
+void CSyntaxDefinition::IndexStarts() {
+  if (Elements.Count() == indexedElements && StateChanges.Count() == indexedChanges) return;
+  elementStarts.Build(Elements);
+  changeStarts.Build(StateChanges);
+  indexedElements = Elements.Count();
+  indexedChanges = StateChanges.Count();
 }
 
 bool CSyntaxDefinition::Load(const Westring& iniPath, const Westring& fileName, const SyntaxComplaint& ask) {

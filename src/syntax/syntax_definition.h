@@ -44,6 +44,8 @@ enum SyntaxAction { kSyntaxPush = 0, kSyntaxPop = 1, kSyntaxChange = 2 };
 
 class CSyntaxStateChange {
  public:
+  SyntaxStart FirstOfStart() const { return {Trigger[0], CaseSensitive}; }
+
   uint8_t Colour = 0;
   CSyntaxContext Context;
   Westring Trigger;
@@ -75,6 +77,17 @@ class CSyntaxDefinition {
   TObjectStore<CSyntaxStateChange> StateChanges;
   wchar_t DefaultEscape = 0;  // of the strings that follow; 0 for none
   KeyedValueSet ColourClasses;
+
+  // What may begin with a character, in the order of the file. To be made anew when
+  // items have been added.
+  void IndexStarts();
+  const std::vector<CSyntaxElement*>& ElementsAt(wchar_t c) const { return elementStarts.At(c); }
+  const std::vector<CSyntaxStateChange*>& StateChangesAt(wchar_t c) const { return changeStarts.At(c); }
+
+ private:
+  StartIndex<CSyntaxElement> elementStarts;
+  StartIndex<CSyntaxStateChange> changeStarts;
+  int indexedElements = 0, indexedChanges = 0;
 };
 
 // No file needs as many items, and more of them would make colouring slow.

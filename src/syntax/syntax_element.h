@@ -2,6 +2,7 @@
 #pragma once
 
 #include "foundation/strings.h"
+#include "syntax/start_index.h"
 #include "syntax/syntax_context.h"
 
 // Texts are zero-ended arrays of characters; a match is at their beginning. Made
@@ -15,6 +16,7 @@ class CSyntaxElement {
   virtual bool MatchStart(const wchar_t* text, const CSyntaxElement* current, int& length) const = 0;
   virtual bool MatchEnd(const wchar_t* text, int& length) const = 0;
   virtual bool ValidIn(const CSyntaxElement* current) const { return Context.ValidIn(current); }
+  virtual SyntaxStart FirstOfStart() const = 0;  // nothing else can match
 
   Estring Name;
   CSyntaxContext Context;
@@ -28,6 +30,7 @@ class CSyntaxLineComment : public CSyntaxElement {
   CSyntaxLineComment() { EndsAtEol = true; }
   bool MatchStart(const wchar_t* text, const CSyntaxElement* current, int& length) const override;
   bool MatchEnd(const wchar_t*, int&) const override { return false; }
+  SyntaxStart FirstOfStart() const override { return {start[0], CaseSensitive}; }
 
   void SetStart(const Estring& text);
 
@@ -43,6 +46,7 @@ class CSyntaxBlock : public CSyntaxElement {
  public:
   bool MatchStart(const wchar_t* text, const CSyntaxElement* current, int& length) const override;
   bool MatchEnd(const wchar_t* text, int& length) const override;
+  SyntaxStart FirstOfStart() const override { return {Start[0], CaseSensitive}; }
 
   Westring Start, End;
   bool CaseSensitive = true;
@@ -52,6 +56,7 @@ class CSyntaxLiteralString : public CSyntaxElement {
  public:
   bool MatchStart(const wchar_t* text, const CSyntaxElement* current, int& length) const override;
   bool MatchEnd(const wchar_t* text, int& length) const override;
+  SyntaxStart FirstOfStart() const override { return {Open, true}; }
 
   wchar_t Open = 0, Close = 0;
 };

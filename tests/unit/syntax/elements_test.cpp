@@ -209,6 +209,31 @@ TEST(Elements, BeginOnlyWhereTheirContextSays) {
   }
 }
 
+// ---- where anything may begin ----------------------------------------------
+
+TEST(StartIndex, HasItemsWhereTheyMayBeginInTheirOrder) {
+  CSyntaxDefinition definition;
+  for (const char* line :
+       {"linecomment:red:#", "blockcomment/i:red:rem:x", "string:red:R:r", "string:red:#:#"})
+    AddDefinitionLine(definition, line);
+  definition.IndexStarts();
+  const auto& elements = definition.Elements;
+  EXPECT_EQ(definition.ElementsAt('#'), (std::vector{elements.Peek(0), elements.Peek(3)}));
+  EXPECT_EQ(definition.ElementsAt('r'), (std::vector{elements.Peek(1)}));
+  EXPECT_EQ(definition.ElementsAt('R'), (std::vector{elements.Peek(1), elements.Peek(2)}));
+  EXPECT_TRUE(definition.ElementsAt('x').empty());
+  definition.Clear();
+  EXPECT_TRUE(definition.ElementsAt('#').empty());
+}
+
+TEST(StartIndex, BeyondAsciiAreItemsOfSuchCharactersAndThoseWithoutCase) {
+  EXPECT_TRUE(MayBeginAt({0xE9, true}, SyntaxStartOf(0xE9)));
+  EXPECT_TRUE(MayBeginAt({'k', false}, SyntaxStartOf(0x212A)));
+  EXPECT_FALSE(MayBeginAt({'k', true}, SyntaxStartOf(0x212A)));
+  EXPECT_TRUE(MayBeginAt({0x212A, false}, SyntaxStartOf(0xE9)));
+  EXPECT_FALSE(MayBeginAt({0, false}, SyntaxStartOf(-1)));
+}
+
 // ---- words -----------------------------------------------------------------
 
 TEST(WordCollection, HoldsWordsInPlace) {
