@@ -120,7 +120,9 @@ class CViewer : public CTextFile {
   void LoadTopLine();
   void NeedTopLine();  // loads it unless it is there
   bool LoadLine(int64_t offset, CellString& cells);
-  bool ReadCells(CellString& cells);  // from Position on; false at the end
+  // The line from Position on; false at the end. Without colours, which depend on all
+  // of it, no more than the first mostCharacters are made into cells.
+  bool ReadCells(CellString& cells, int mostCharacters = kLongestLine);
   void MakeLine(const wchar_t* text, CellString& cells);
   int LastRowStart(int cells) const;
   // From the line's cell wrapCol on: in one row, or in all that it takes. The cell

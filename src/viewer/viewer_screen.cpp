@@ -24,12 +24,15 @@ void CViewer::Repaint() {
 
 void CViewer::MakeLine(const wchar_t* text, CellString& cells) { Highlighter.RenderLine(text, cells); }
 
-bool CViewer::ReadCells(CellString& cells) {
+bool CViewer::ReadCells(CellString& cells, int mostCharacters) {
   const int64_t start = Position;
   int length;
   const wchar_t* const text = ReadLine(length, kLongestLine);
   if (text == nullptr || Position <= start) return false;
-  MakeLine(text, cells);
+  if (length > mostCharacters && !Highlighter.Active)
+    MakeLine(Westring(text, mostCharacters).Text(), cells);
+  else
+    MakeLine(text, cells);
   return true;
 }
 
@@ -119,7 +122,9 @@ void CViewer::RepaintText() {
   }
   while (topExists && row < ScreenHeight) {
     const int64_t offset = Position;
-    if (!ReadCells(BottomLine)) break;
+    // A character takes a cell or more; of the line at the bottom the length counts.
+    const bool isCut = !IsWrapped() && row < ScreenHeight - 1;
+    if (!ReadCells(BottomLine, isCut ? LeftCol + ScreenWidth + 1 : kLongestLine)) break;
     const int end = PlaceLine(row, offset, BottomLine, 0);
     if (row == ScreenHeight) SetBottom(offset, end, Position);
   }
