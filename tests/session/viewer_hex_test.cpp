@@ -95,6 +95,7 @@ TEST_F(ViewerHex, OffsetsOfMoreDigitsPushTheBytesToTheRight) {
   const int descriptor = open(file.c_str(), O_WRONLY);
   ASSERT_EQ(pwrite(descriptor, "ABCDEFGHIJKLMNOP", 16, top), 16);
   close(descriptor);
+  Options::ViewerWrap = true;  // rows of one line, not of a megabyte each
   ShowFile(file);
   TurnToHex(top);
   EXPECT_EQ(Line(0), "123456780 41 42 43 44 │ 45 46 47 48 │ 49 4A 4B 4C │ 4D 4E 4F 50 ABCDEFGHIJKLMNOP");
@@ -106,6 +107,7 @@ TEST_F(ViewerHex, BytesThatHaveNoRoomAreCutBeforeTheCharacters) {
   const std::string file = texts.Path("text");
   const int64_t top = 0x10000000000;
   ASSERT_EQ(truncate(file.c_str(), top + 16), 0);
+  Options::ViewerWrap = true;  // rows of one line, not of a megabyte each
   ShowFile(file);
   TurnToHex(top);
   EXPECT_EQ(Line(0), "10000000000 00 00 00 00 │ 00 00 00 00 │ 00 00 00 00 │ 00 00 00 0................");

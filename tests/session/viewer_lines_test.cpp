@@ -267,6 +267,7 @@ TEST_F(ViewerLines, TheEndOfASparseFileOfTenGigabytesIsFoundWithoutReadingIt) {
   texts.Write("text", "first\n");
   const int64_t size = 10LL << 30;
   ASSERT_EQ(truncate(texts.Path("text").c_str(), size), 0);
+  Options::ViewerWrap = true;  // rows of one line, not of a megabyte each
   ShowFile(texts.Path("text"), kCodePageText);
   EXPECT_EQ(viewer->PrevLine(size), 6 + (size - 6) / kPiece * kPiece);
   EXPECT_EQ(viewer->LongLineStart, 6);
@@ -283,6 +284,7 @@ TEST_F(ViewerLines, LinesBetweenTheHolesAreFound) {
   ASSERT_EQ(pwrite(descriptor, "one\ntwo", 7, middle), 7);
   ASSERT_EQ(ftruncate(descriptor, size), 0);
   close(descriptor);
+  Options::ViewerWrap = true;  // rows of one line, not of a megabyte each
   ShowFile(file, kCodePageText);
   viewer->PrevLine(size);
   EXPECT_EQ(viewer->LongLineStart, middle + 4);
