@@ -81,7 +81,7 @@ std::string SideBySide(const std::vector<std::string>& text, const std::vector<s
 
 }  // namespace
 
-std::string ShippedSyntax() { return ContentOf("syntax.ini") + "\n" + ContentOf("syntax_b.ini"); }
+std::string ShippedSyntax() { return ContentOf("syntax.ini"); }
 
 Languages::Languages() {
   SetDefaultOptions();
