@@ -1,5 +1,6 @@
 // What a user waits for: the start until both panels are painted, and a key
-// until its pixels are there. And what the idle program costs.
+// until its pixels are there, in the panels and in the viewer. And what the idle
+// program costs.
 #include <X11/keysym.h>
 
 #include <chrono>
@@ -34,6 +35,7 @@ class Place {
       scratch.MakeEmptyFile(name);
     }
   }
+  void Write(const std::string& name, const std::string& content) const { scratch.Write(name, content); }
   std::string Home() const { return scratch.Path("home"); }
   std::string Files() const { return scratch.Path("files"); }
 
@@ -95,7 +97,9 @@ BenchRow MeasureStart(Watcher& screen) {
   return CompareTimes(
       "start to both panels painted", 15, kStartLimit,
       [&] { return StartTime(screen, {ORVANE_BENCH_PROGRAM}, place, ShowsPanels); },
-      [&] { return StartTime(screen, {ORVANE_BENCH_BARE_WINDOW, "start"}, place, ShowsLayout); });
+      [&] {
+        return StartTime(screen, {ORVANE_BENCH_BARE_WINDOW, "start"}, place, ShowsLayout);
+      });
 }
 
 // ---- keys ------------------------------------------------------------------
@@ -239,6 +243,68 @@ void MeasureKeys(Watcher& screen, std::vector<BenchRow>& rows) {
   }
 }
 
+// ---- the viewer --------------------------------------------------------------
+
+// Its last row of text, while it scrolls.
+class ViewerWatch {
+ public:
+  explicit ViewerWatch(Watcher& watched) : screen(watched) {
+    screen.Await("the viewer", screen.Whole(), [&] { return ShowsViewer(); });
+    const Watcher::Frame frame = screen.FindWindow();
+    const int cellHeight = frame.area.height / kRows;
+    lastRow = {frame.area.x, frame.area.y + (kRows - 2) * cellHeight, frame.area.width / 2, cellHeight};
+    screen.GiveKeyboardTo(frame.window);
+    screen.AwaitRest(frame.area, 100);
+  }
+
+  // Presses Down and waits until the next line stands there.
+  double ScrollTime() {
+    const Image before = screen.Take(lastRow);
+    return Seconds([&] {
+      screen.Press(XK_Down);
+      screen.Await("a scrolled text", lastRow, [&] {
+        const Image now = screen.Take(lastRow);
+        return Share(now, kBlue) < 1 && !AreEqual(before, now);
+      });
+    });
+  }
+
+ private:
+  bool ShowsViewer() const {
+    const Area window = screen.FindWindow().area;
+    if (window.width == 0) return false;
+    return Share(screen.Take({window.x, window.y + window.height / 2, window.width, 1}), kBlue) > 0.5 &&
+           Share(screen.Take({window.x, window.y + window.height - 3, window.width, 1}), kCyan) > 0.5;
+  }
+
+  Watcher& screen;
+  Area lastRow;
+};
+
+void MeasureViewer(Watcher& screen, std::vector<BenchRow>& rows) {
+  constexpr int kLines = 10'000;
+  const Place place(0, "Lines=50\r\nColumns=132\r\n");
+  std::string text;
+  for (int i = 0; i < kLines; ++i) text += "line " + std::to_string(i) + " of a text that is read\n";
+  place.Write("files/text.txt", text);
+  for (const Pace& pace : kPaces) {
+    std::vector<double> scroll, row;
+    for (int round = 0; round < kRounds; ++round) {
+      AwaitEmptyScreen(screen);
+      row.push_back(RowTime(pace));
+      AwaitEmptyScreen(screen);
+      const Process program({ORVANE_BENCH_PROGRAM, "-v", "text.txt"}, place.Files(), place.Home());
+      ViewerWatch viewer(screen);
+      for (int i = 0; i < pace.scrolls; ++i) {
+        Rest(pace);
+        scroll.push_back(viewer.ScrollTime());
+      }
+    }
+    rows.push_back({std::string("viewer, a row down to pixels, ") + pace.name, "us", Median(scroll) * 1e6,
+                    Median(row) * 1e6, kKeyLimit});
+  }
+}
+
 // ---- idle ------------------------------------------------------------------
 
 // The cursor ticks ten times a second, and the clock is looked at once. What is
@@ -264,6 +330,7 @@ int main() {
   std::vector<BenchRow> rows;
   rows.push_back(MeasureStart(screen));
   MeasureKeys(screen, rows);
+  MeasureViewer(screen, rows);
   rows.push_back(MeasureIdle(screen));
   return PrintRows(rows);
 }
