@@ -39,7 +39,7 @@ std::vector<std::string> ShippedLines() {
 }
 
 struct ShippedSection {
-  std::string name;
+  std::string header, name;
   std::vector<std::string> patterns;
 };
 
@@ -49,7 +49,7 @@ std::vector<ShippedSection> ShippedSections() {
     const size_t colon = line.find(':');
     if (line.starts_with('[') && line.ends_with(']') && colon != std::string::npos)
       sections.push_back(
-          {line.substr(1, colon - 1), Split(line.substr(colon + 1, line.size() - colon - 2), ';')});
+          {line, line.substr(1, colon - 1), Split(line.substr(colon + 1, line.size() - colon - 2), ';')});
   }
   return sections;
 }
@@ -112,12 +112,20 @@ std::set<std::string> UnknownStates(const CSyntaxDefinition& definition) {
 
 }  // namespace
 
+// With nothing but the section's header to read, as there are many patterns.
 TEST_F(Languages, EveryPatternOfASectionFindsIt) {
   const std::vector<ShippedSection> sections = ShippedSections();
   ASSERT_GE(sections.size(), 18u);
-  for (const ShippedSection& section : sections)
-    for (const std::string& pattern : section.patterns)
-      EXPECT_TRUE(HasDefinition(NameFor(pattern))) << section.name << ": " << pattern;
+  ScratchDirectory scratch;
+  const Westring path(scratch.Path("headers.ini").c_str());
+  for (const ShippedSection& section : sections) {
+    scratch.Write("headers.ini", section.header + "\n");
+    for (const std::string& pattern : section.patterns) {
+      CSyntaxHighlighter highlighter;
+      highlighter.Load(path, Westring(NameFor(pattern).c_str()));
+      EXPECT_TRUE(highlighter.Active) << section.name << ": " << pattern;
+    }
+  }
 }
 
 TEST_F(Languages, FilesOfNoLanguageHaveNoDefinition) {
