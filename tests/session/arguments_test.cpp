@@ -30,8 +30,8 @@ TEST(Arguments, AnUnknownOptionEndsWithTheUsage) {
   }
 }
 
-TEST(Arguments, AnInternalToolThatIsNotThereIsRefused) {
-  for (const char* option : {"-v", "-e", "\\e"}) EXPECT_EQ(RunToEnd({option, "file"}).exitCode, 1) << option;
+TEST(Arguments, TheEditorThatIsNotThereIsRefused) {
+  for (const char* option : {"-e", "\\e"}) EXPECT_EQ(RunToEnd({option, "file"}).exitCode, 1) << option;
 }
 
 TEST(Arguments, AUsageErrorShowsNoPromptOfTheSettings) {
