@@ -140,7 +140,9 @@ void CViewer::Reset() {
   KeepNul = false;
   LongLineStart = LongLinePos = 0;
   BottomOffset = -1;
-  StateStore.Reset();
+  StateStore.Reset();  // before the elements that it knows of go
+  Highlighter.Clear();
+  Highlighter.Definition.Clear();
 }
 
 void CViewer::TakeEncoding(const HISTREC* known) {
@@ -148,12 +150,11 @@ void CViewer::TakeEncoding(const HISTREC* known) {
   if (known && known->Encoding != kUnknownEncoding) SetEncoding(known->Encoding, known->CodePage);
 }
 
-// The byte is asked for, and not the size: some files do not know theirs.
 void CViewer::Start(int64_t offset, const HISTREC* known) {
   const bool isAsked = offset >= 0;
   if (!isAsked && known) offset = known->ViewerPos;
   SetTop(DataStart);
-  if (offset >= 0 && ByteAt(offset) >= 0) {
+  if (offset >= 0 && Reaches(*this, offset)) {
     SetTop(LineStart(offset));
     if (isAsked) return ShowOffset(*this, offset, kWholeSearchString);
   } else if (offset < 0 && known) {

@@ -1,6 +1,7 @@
 // The dialogs "Goto Line" and "Goto Offset", and the way there.
 #include "viewer/viewer_goto.h"
 
+#include <algorithm>
 #include <cinttypes>
 #include <cwchar>
 
@@ -10,6 +11,8 @@
 #include "dialogs/prompt.h"
 
 namespace {
+
+constexpr int kMostLooks = 4096;  // for what has come since, and a file may never end
 
 constexpr int kHeight = 5, kColumn = 1, kRow = 1;
 
@@ -58,11 +61,16 @@ uint64_t HexNumber(const Westring& digits) {
   return number;
 }
 
-bool IsInFile(CViewer& viewer, uint64_t offset) {
-  return offset <= INT64_MAX && viewer.ByteAt(static_cast<int64_t>(offset)) >= 0;
-}
-
 }  // namespace
+
+// A file that tells no size has that of what was read of it.
+bool Reaches(CViewer& viewer, int64_t offset) {
+  for (int look = 0; look < kMostLooks && offset >= viewer.FileSize; ++look) {
+    if (viewer.ByteAt(viewer.FileSize) < 0) return false;
+    viewer.FileSize = std::max(viewer.FileSize, viewer.Size());
+  }
+  return offset < viewer.FileSize;
+}
 
 void ShowOffset(CViewer& viewer, int64_t offset, int cells) {
   const int64_t start = viewer.LineStart(offset);
@@ -99,8 +107,8 @@ void GotoOffset(CViewer& viewer) {
   Westring digits;
   if (!AskForOffset(digits)) return;
   const uint64_t number = HexNumber(digits);
-  if (!IsInFile(viewer, number)) return TellOnly(viewer.FileSize, "bytes");
-  const auto offset = static_cast<int64_t>(number);
+  const auto offset = static_cast<int64_t>(std::min<uint64_t>(number, INT64_MAX));
+  if (!Reaches(viewer, offset)) return TellOnly(viewer.FileSize, "bytes");
   if (!viewer.HexMode) return ShowOffset(viewer, offset, 1);
   viewer.SearchPos = -1;
   viewer.SetTop(offset);

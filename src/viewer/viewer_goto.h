@@ -9,6 +9,9 @@ constexpr int kWholeSearchString = -1;  // instead of a number of cells
 // on.
 void ShowOffset(CViewer& viewer, int64_t offset, int cells);
 
+// Whether the file has a byte at offset by now.
+bool Reaches(CViewer& viewer, int64_t offset);
+
 struct LineWalk {
   enum End { kArrived, kFileEnded, kStopped } end;
   int64_t offset;  // behind the last of the lines
