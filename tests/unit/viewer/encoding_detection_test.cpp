@@ -65,7 +65,7 @@ TEST(EncodingMark, BytesBehindTheEndCountAsFF) {
   EXPECT_EQ(text.Encoding, kUtf16Big);
   EXPECT_EQ(text.DataStart, 2);
   EXPECT_EQ(text.GetChar(), -1);
-  EXPECT_EQ(text.Line(), L"-");
+  EXPECT_EQ(text.Line(), kNoLine);
   EXPECT_EQ(Detected("\0\0\xFE"s), kUtf32Big);
   EXPECT_EQ(Detected("\xFF\xFE"s), kUtf16Little) << "and not the longer mark";
 }

@@ -52,6 +52,9 @@ inline std::string Encoded(const std::u32string& text, int encoding) {
   return bytes;
 }
 
+// Instead of a line, where there is none.
+inline const std::wstring kNoLine = L"(end of the file)";
+
 // A file with content, read in an encoding; without one it is found out.
 class OpenText : public CTextFile {
  public:
@@ -62,17 +65,16 @@ class OpenText : public CTextFile {
   }
 
   Westring Path() const { return Westring(box.Path("text").c_str()); }
-  // With L"-" for the end of the file.
   std::wstring Line(int most = 0) {
     int length = -1;
     const wchar_t* text = ReadLine(length, most);
-    if (!text) return L"-";
+    if (!text) return kNoLine;
     EXPECT_EQ(text[length], 0);
     return std::wstring(text, static_cast<size_t>(length));
   }
   std::vector<std::wstring> Lines(int most = 0) {
     std::vector<std::wstring> lines;
-    for (std::wstring text = Line(most); text != L"-"; text = Line(most)) lines.push_back(text);
+    for (std::wstring text = Line(most); text != kNoLine; text = Line(most)) lines.push_back(text);
     return lines;
   }
 
