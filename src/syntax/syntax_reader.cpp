@@ -48,6 +48,12 @@ void DropByteOrderMark(std::string& line) {
   if (line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
 }
 
+// Where a line as long as may be was taken; its end may be the last byte of that.
+void SkipRestOfLine(StdFile& file) {
+  char c = 0;
+  for (file.SeekRelative(-1); c != '\n' && file.Read(&c, 1) == 0;) continue;
+}
+
 }  // namespace
 
 void CIniStack::Pop() {
@@ -102,15 +108,13 @@ void SyntaxReader::Complain(int code, const Westring& path) {
 // False at the end of the topmost file, and of what may be read at all.
 bool SyntaxReader::ReadPhysicalLine(std::string& line) {
   StdFile& file = *files.Top();
-  const bool isFirst = file.Tell() == 0;
-  line.clear();
-  bool anything = false;
-  for (char c = 0; c != '\n' && bytesRead < kMostBytes && file.Read(&c, 1) == 0; ++bytesRead) {
-    anything = true;
-    if (c != '\n' && line.size() < kLongestPhysicalLine) line += c;
-  }
-  line.erase(line.find_last_not_of("\r\n") + 1);
-  if (isFirst) DropByteOrderMark(line);
+  const int64_t start = file.Tell();
+  char buffer[kLongestPhysicalLine + 1];
+  const bool anything = bytesRead < kMostBytes && file.ReadLine(buffer, sizeof buffer) == 0;
+  line = anything ? buffer : "";
+  if (file.Tell() - start == kLongestPhysicalLine) SkipRestOfLine(file);
+  bytesRead += file.Tell() - start;
+  if (start == 0) DropByteOrderMark(line);
   return anything;
 }
 

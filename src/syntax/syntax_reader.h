@@ -27,7 +27,7 @@ class SyntaxReader {
   // on, in all the ways in which this can be done.
   static constexpr int kDeepest = 32;
   static constexpr int kMostFiles = 2000;
-  static constexpr int64_t kMostBytes = 16 << 20;
+  static constexpr int64_t kMostBytes = 4 << 20;
 
   explicit SyntaxReader(const SyntaxComplaint& complaint) : ask(complaint) {}
 

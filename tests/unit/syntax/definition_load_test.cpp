@@ -329,6 +329,12 @@ TEST_F(DefinitionLoad, APathThatIsTooLongIsTold) {
   EXPECT_TRUE(complaints[0].starts_with("File name too long: xxx"));
 }
 
+TEST_F(DefinitionLoad, AFileThatCannotBeReadToItsEndIsTold) {
+  EXPECT_TRUE(Load("!include /proc/self/mem\n[C:*.c]\nlinecomment:red:1\n"));
+  EXPECT_EQ(complaints, std::vector{std::string("Input/output error: /proc/self/mem")});
+  EXPECT_EQ(Comments(), "1 ");
+}
+
 TEST_F(DefinitionLoad, AFileThatIncludesItselfIsTold) {
   EXPECT_TRUE(Load("[C:*.c]\nlinecomment:red:1\n!include syntax.ini\nlinecomment:red:2\n"));
   EXPECT_EQ(complaints, std::vector{Complaint("The file includes itself", "syntax.ini")});
@@ -373,9 +379,10 @@ TEST_F(DefinitionLoad, IncludesThatMultiplyAreBounded) {
 }
 
 TEST_F(DefinitionLoad, AHugeFileEndsWhereTheLimitIs) {
-  std::ofstream(scratch.Path("huge")) << "linecomment:red:1\n";
-  std::filesystem::resize_file(scratch.Path("huge"), SyntaxReader::kMostBytes);
-  EXPECT_TRUE(Load("[C:*.c]\n!include huge\nlinecomment:red:2\n"));
+  std::string huge = "linecomment:red:1\n";
+  while (huge.size() <= size_t{SyntaxReader::kMostBytes}) huge += std::string(1000, 'x') + "\n";
+  scratch.Write("huge", huge + "linecomment:red:2\n");
+  EXPECT_TRUE(Load("[C:*.c]\n!include huge\nlinecomment:red:3\n"));
   EXPECT_EQ(complaints, std::vector{Complaint("File too large", "huge")});
   EXPECT_EQ(Comments(), "1 ");
 }

@@ -124,7 +124,7 @@ TEST_F(Highlighter, ElementsComeBeforeStateChangesAndThoseBeforeWords) {
   EXPECT_EQ(Marks(L"end"), "rrr");
 }
 
-TEST_F(Highlighter, AnElementMayBeginInsideOfNoWordOnly) {
+TEST_F(Highlighter, NoElementBeginsInsideOfAWord) {
   Define({"linecomment:red:rem"});
   EXPECT_EQ(Marks(L"theorem"), ".......");
   EXPECT_EQ(Marks(L"a rem"), "..rrr");
