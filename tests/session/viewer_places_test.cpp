@@ -157,14 +157,6 @@ TEST(ViewerStart, AFileThatIsNotThereIsTold) {
   EXPECT_EQ(s.ExitCode(), 0);
 }
 
-TEST(ViewerStart, TheEditorThatIsNotThereFollowsTheViewer) {
-  Session s({{"file", "text\n"}}, {.arguments = {{"-v", "file", "-e", "file"}}});
-  EXPECT_TRUE(s.Row(1).StartsWith("text "));
-  s.Keys("Esc");
-  EXPECT_TRUE(s.HasEnded());
-  EXPECT_EQ(s.ExitCode(), 1);
-}
-
 TEST(ViewerStart, ACommandShowsAFile) {
   Session s({{"left/my file", ManyLines(100)}});
   for (const char* line : {"'$view my\\ file'", "'$VIEW my\\ file'"}) {

@@ -1,7 +1,10 @@
 // Searching in the viewer with its keys.
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "session/viewer_screen.h"
+#include "support/faults.h"
 #include "viewer/code_page_list.h"
 #include "viewer/search_settings.h"
 
@@ -193,4 +196,31 @@ TEST_F(ViewerSearch, InUnwrappedTextTheHitIsMovedIntoView) {
   EXPECT_EQ(s.Mark().second, 72);  // 3006 - 80 = 2926, in steps of four 2928
   s.Keys("Home Shift-F7");
   EXPECT_EQ(s.Marked(), "needle");
+}
+
+TEST_F(ViewerSearch, ANoteStandsThereWhileItRuns) {
+  ViewerSession s(ManyLines(100000));
+  std::optional<int> row;
+  bool isFramed = false;
+  {
+    const Fault look(kCallRead, {.path = s.Path("left/file"), .times = kEveryCall, .before = [&] {
+                                   if (row || !(row = s.FindRow("║ Searching... ║"))) return;
+                                   isFramed =
+                                       s.Character(32, *row - 3) == U'╔' && s.Character(47, *row + 3) == U'╝';
+                                 }});
+    s.Keys("F7 'nothing' Enter");
+  }
+  EXPECT_TRUE(row);
+  EXPECT_TRUE(isFramed);
+  EXPECT_FALSE(s.FindRow("Searching"));
+  EXPECT_TRUE(s.FindRow("String not found"));
+}
+
+TEST_F(ViewerSearch, EscBreaksItOffAndNothingIsSaid) {
+  for (const char* text : {"\xE4\n", "\n"}) {  // bytes of a code page, and UTF-8
+    ViewerSession s(text + ManyLines(1000000));
+    const std::string before = s.Screen();
+    s.KeysTypedAhead("F7 'nothing' Enter Esc");
+    EXPECT_EQ(s.Screen(), before);
+  }
 }
