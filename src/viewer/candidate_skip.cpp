@@ -9,9 +9,8 @@
 
 namespace {
 
-constexpr int kFarthestPlace = 64;   // bytes from the beginning that the filter may look at
-constexpr wchar_t kFolded = 0x8000;  // elements from here on fold to themselves
-constexpr int kAsciiRun = 32;
+constexpr int kFarthestPlace = 64;        // bytes from the beginning that the filter may look at
+constexpr wchar_t kFolded = 0x8000;       // elements from here on fold to themselves
 constexpr wchar_t kReplacement = 0xFFFD;  // stands for the words of UTF-32 that are no characters
 
 using CharacterBytes = std::vector<uint8_t>;
@@ -26,32 +25,6 @@ struct Layout {
 Layout LayoutOf(const CTextFile& file) {
   if (file.Encoding == kUtf8) return {0, false, false};
   return {file.BytesPerUnit(), file.BigEndian(), !file.KeepNul};
-}
-
-bool IsContinuation(uint8_t byte) { return (byte & 0xC0) == 0x80; }
-
-// Bytes of the character that a lead byte begins, 0 for no lead byte.
-int LeadLength(uint8_t lead) {
-  if (lead < 0x80) return 1;
-  if (lead < 0xC0 || lead >= 0xF8) return 0;
-  return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-}
-
-// Length of a character in its shortest form, 0 where no such one stands.
-int SureCharacter(const uint8_t* bytes, int n) {
-  const int length = LeadLength(bytes[0]);
-  if (length == 0 || length > n || bytes[0] == 0xC0 || bytes[0] == 0xC1) return 0;
-  for (int i = 1; i < length; ++i)
-    if (!IsContinuation(bytes[i])) return 0;
-  if (bytes[0] == 0xE0 && bytes[1] < 0xA0) return 0;
-  if (bytes[0] == 0xF0 && bytes[1] < 0x90) return 0;
-  return length;
-}
-
-bool IsAscii(const uint8_t* bytes, int n) {
-  uint8_t all = 0;
-  for (int i = 0; i < n; ++i) all |= bytes[i];
-  return all < 0x80;
 }
 
 CharacterBytes Utf8Bytes(uint32_t ch) {
@@ -104,36 +77,48 @@ std::vector<CharacterBytes> Forms(wchar_t ch, bool caseSensitive, const Layout& 
   return forms;
 }
 
-bool SameLength(const std::vector<CharacterBytes>& forms) {
-  return std::all_of(forms.begin(), forms.end(),
-                     [&](const CharacterBytes& form) { return form.size() == forms[0].size(); });
+// Nearly all forms of a character are equally long. Those that are not are
+// excepted from the sure text, so that a character has one length there; false
+// where that cannot be.
+bool ExceptOtherLengths(std::vector<CharacterBytes>& forms, SureText& sureText) {
+  const auto countOf = [&](size_t length) {
+    return std::count_if(forms.begin(), forms.end(),
+                         [length](const CharacterBytes& form) { return form.size() == length; });
+  };
+  size_t usual = forms[0].size();
+  for (const CharacterBytes& form : forms)
+    if (countOf(form.size()) > countOf(usual)) usual = form.size();
+  for (const CharacterBytes& form : forms) {
+    if (form.size() == usual) continue;
+    if (form.size() == 1 || !sureText.Except({form[0], form[1]})) return false;
+  }
+  std::erase_if(forms, [usual](const CharacterBytes& form) { return form.size() != usual; });
+  return true;
 }
 
-MatchPlace PlaceOf(int offset, const std::vector<CharacterBytes>& forms, int index, bool fromEnd) {
+MatchPlace PlaceOf(int offset, const std::vector<CharacterBytes>& forms, size_t index) {
   MatchPlace place = {offset, {}};
-  for (const CharacterBytes& form : forms) {
-    const uint8_t byte = form[fromEnd ? form.size() - 1 - index : index];
-    if (std::find(place.bytes.begin(), place.bytes.end(), byte) == place.bytes.end())
-      place.bytes.push_back(byte);
-  }
+  for (const CharacterBytes& form : forms)
+    if (std::find(place.bytes.begin(), place.bytes.end(), form[index]) == place.bytes.end())
+      place.bytes.push_back(form[index]);
   return place;
 }
 
-// Places are known as far as all forms of the characters so far are equally
-// long; of the first one that is not, only the byte it begins with.
+// The bytes of a match in sure text, which is restricted as it has to be.
 std::vector<MatchPlace> PlacesOf(const Westring& pattern, bool caseSensitive, bool reverse,
-                                 const Layout& layout) {
+                                 const Layout& layout, SureText& sureText) {
   std::vector<MatchPlace> places;
   int distance = 0;
   for (int i = 0; pattern[i] && distance < kFarthestPlace; ++i) {
     if (pattern[i] == kReplacement && layout.unit == 4) break;
-    const auto forms = Forms(pattern[i], caseSensitive, layout);
+    auto forms = Forms(pattern[i], caseSensitive, layout);
     if (forms.empty()) return {{0, {}}};
-    const bool sameLength = SameLength(forms);
-    const int known = sameLength ? static_cast<int>(forms[0].size()) : 1;
-    for (int index = 0; index < known; ++index, ++distance)
-      places.push_back(PlaceOf(reverse ? -1 - distance : distance, forms, index, reverse));
-    if (!sameLength) break;
+    if (!ExceptOtherLengths(forms, sureText)) break;
+    const int length = static_cast<int>(forms[0].size());
+    if (reverse) distance += length;
+    for (int index = 0; index < length; ++index)
+      places.push_back(PlaceOf((reverse ? -distance : distance) + index, forms, static_cast<size_t>(index)));
+    if (!reverse) distance += length;
   }
   return places;
 }
@@ -144,55 +129,21 @@ CandidateSkip::CandidateSkip(CTextFile& file, const Westring& pattern, bool case
     : file(file),
       reverse(reverse),
       unit(LayoutOf(file).unit),
-      filter(PlacesOf(pattern, caseSensitive, reverse, LayoutOf(file))),
+      sureText(unit),
+      filter(PlacesOf(pattern, caseSensitive, reverse, LayoutOf(file), sureText)),
       sureUntil(file.Position) {}
-
-bool CandidateSkip::IsBoundary(int distance, uint8_t byte) const {
-  return unit == 0 ? !IsContinuation(byte) : distance % unit == 0;
-}
-
-int CandidateSkip::SureLength(const uint8_t* bytes, int n) const {
-  if (unit != 0) return n - n % unit;
-  int i = 0;
-  while (i < n) {
-    if (bytes[i] < 0x80 && n - i >= kAsciiRun && IsAscii(bytes + i, kAsciiRun)) {
-      i += kAsciiRun;
-      continue;
-    }
-    const int length = SureCharacter(bytes + i, n - i);
-    if (length == 0) break;
-    i += length;
-  }
-  return i;
-}
-
-int CandidateSkip::SureLengthBack(const uint8_t* bytes, int n) const {
-  if (unit != 0) return n - n % unit;
-  int i = n;
-  while (i > 0) {
-    if (bytes[i - 1] < 0x80 && i >= kAsciiRun && IsAscii(bytes + i - kAsciiRun, kAsciiRun)) {
-      i -= kAsciiRun;
-      continue;
-    }
-    int begin = i - 1;
-    while (begin > 0 && i - begin < 4 && IsContinuation(bytes[begin])) --begin;
-    if (SureCharacter(bytes + begin, i - begin) != i - begin) break;
-    i = begin;
-  }
-  return n - i;
-}
 
 bool CandidateSkip::MoveOn() {
   const int64_t at = file.Position;
   const uint8_t* bytes;
   const int n = file.BytesFrom(at, bytes);
-  if (at >= sureUntil) sureUntil = at + SureLength(bytes, n);
+  if (at >= sureUntil) sureUntil = at + sureText.Length(bytes, n);
   const int sure = static_cast<int>(std::min<int64_t>(n, sureUntil - at));
   const int end = sure - filter.Highest();  // from here the filter would look behind the sure text
   if (end <= 0) return false;
   int i = filter.First(bytes, 0, end);
-  while (i < end && !IsBoundary(i, bytes[i])) i = filter.First(bytes, i + 1, end);
-  while (i < sure && !IsBoundary(i, bytes[i])) ++i;
+  while (i < end && !sureText.IsBoundary(i, bytes[i])) i = filter.First(bytes, i + 1, end);
+  while (i < sure && !sureText.IsBoundary(i, bytes[i])) ++i;
   file.Position = at + i;
   return i > 0;
 }
@@ -204,11 +155,11 @@ bool CandidateSkip::MoveBack() {
   if (at <= 0 || (unit > 1 && (at - file.DataStart) % unit != 0)) return false;
   const uint8_t* bytes;
   const int n = file.BytesUpTo(at - 1, bytes);
-  if (at <= sureUntil) sureUntil = at - SureLengthBack(bytes, n);
+  if (at <= sureUntil) sureUntil = at - sureText.LengthBack(bytes, n);
   const int sure = static_cast<int>(std::min<int64_t>(n, at - sureUntil));
   const int begin = n - sure - filter.Lowest();
   if (begin > n) return false;
-  const auto isBoundary = [&](int i) { return i == n || IsBoundary(n - i, bytes[i]); };
+  const auto isBoundary = [&](int i) { return i == n || sureText.IsBoundary(n - i, bytes[i]); };
   int i = filter.Last(bytes, begin, n + 1);
   while (i >= begin && !isBoundary(i)) i = filter.Last(bytes, begin, i);
   i = std::max(i, n - sure);

@@ -3,12 +3,10 @@
 #pragma once
 
 #include "viewer/match_filter.h"
+#include "viewer/sure_text.h"
 #include "viewer/text_file.h"
 
-// Only over sure text, in which every character has the one form in bytes that
-// belongs to it: there the bytes tell what the characters are. Elsewhere - a
-// stray byte, a character that is cut off or longer than it has to be - nothing
-// is passed over.
+// Only in sure text; elsewhere nothing is passed over.
 class CandidateSkip {
  public:
   // pattern: in the order of reading, folded unless caseSensitive.
@@ -21,14 +19,11 @@ class CandidateSkip {
  private:
   bool MoveOn();
   bool MoveBack();
-  // Whether a character begins after distance bytes of sure text, and at a byte.
-  bool IsBoundary(int distance, uint8_t byte) const;
-  int SureLength(const uint8_t* bytes, int n) const;
-  int SureLengthBack(const uint8_t* bytes, int n) const;
 
   CTextFile& file;
   const bool reverse;
   const int unit;  // bytes of a character; 0 for UTF-8
+  SureText sureText;
   const MatchFilter filter;
   int64_t sureUntil;  // from here, in the direction of reading, nothing is known
 };

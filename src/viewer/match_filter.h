@@ -1,4 +1,4 @@
-// A quick look for where a text may stand among bytes: two of its bytes, the
+// A quick look for where a text may stand among bytes: some of its bytes, the
 // rarest, are compared in many places at a time.
 #pragma once
 
@@ -28,21 +28,27 @@ class MatchFilter {
 
  private:
   static constexpr int kMostBytes = 4;  // a place with more does not sort out enough
+  static constexpr int kMostAnchors = 4;
 
   struct Anchor {
     int offset = 0;
     uint8_t bytes[kMostBytes] = {};  // some of them twice, where there are less
   };
 
-  void SetAnchor(Anchor& anchor, const MatchPlace& place);
+  void AddAnchor(const MatchPlace& place);
   bool MayBeAt(const uint8_t* place) const;
   template <int kBytes>
-  bool MayBeWithin(const uint8_t* chunk) const;
+  int FirstWith(const uint8_t* bytes, int from, int to) const;
+  template <int kBytes>
+  int LastWith(const uint8_t* bytes, int from, int to) const;
+  template <int kBytes>
+  auto Candidates(const uint8_t* bytes, int count) const;
+  template <int kBytes>
   bool ChunkMayHold(const uint8_t* chunk) const;
 
-  enum class Kind { Nowhere, Anywhere, OneByte, TwoBytes, MoreBytes };
-
-  Kind kind = Kind::Anywhere;
-  Anchor anchors[2];
+  bool isNowhere = false;
+  int mostBytes = 1;  // of a place
+  Anchor anchors[kMostAnchors];
+  int anchorCount = 0;  // 0: a match may be anywhere
   int lowest = 0, highest = 0;
 };
