@@ -103,7 +103,7 @@ int SureText::Length(const uint8_t* bytes, int n) const {
     }
     // A chunk may end within a character, which is looked at again.
     while (i > begin && GoesOn(bytes + i)) --i;
-    const int length = CharacterLength(bytes + i, n - i);
+    const int length = i < n ? CharacterLength(bytes + i, n - i) : 0;
     if (length == 0) break;
     i += length;
   }
