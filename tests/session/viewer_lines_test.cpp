@@ -300,6 +300,19 @@ TEST_F(ViewerLines, ALineOfZerosInUtf8IsFoundFromItsMiddle) {
   EXPECT_EQ(viewer->LineStart(8), 8);
 }
 
+TEST_F(ViewerLines, EscapeBreaksOffALongWayBackAndTheLineBeginsThere) {
+  Options::ViewerWrap = true;
+  Show(std::string(20 * kPiece, 'x'), kCodePageText);
+  TEvent escape;
+  escape.type = kEventKey;
+  escape.code = kEscape;
+  Console->Events().Put(new TEvent(escape));
+  EXPECT_GT(viewer->PrevLine(viewer->FileSize), 0);
+  EXPECT_GT(viewer->LongLineStart, 0);
+  EXPECT_LT(viewer->LongLineStart, 4 * kPiece);
+  EXPECT_FALSE(Console->EventPending());
+}
+
 TEST_F(ViewerLines, WhatWasCutOffTheFileIsPassedOver) {
   Show(NumberedLines(20000));
   const int64_t size = viewer->FileSize;
