@@ -90,12 +90,16 @@ bool ShowHelpPage(Viewing&, Key) {
 
 // ---- the encoding
 
+bool AskForEncoding(int& encoding, int& codePage, bool hasMark) {
+  CFormatSelectDlg dialog("Select File Encoding", encoding, codePage, hasMark);
+  return dialog.Execute() == static_cast<int>(kEnter);
+}
+
+// The mark of what is on the disk stays as it is.
 bool ChooseEncoding(Viewing& viewing, Key) {
   CViewer& viewer = viewing.viewer;
   int encoding = viewer.Encoding, codePage = viewer.CodePage;
-  bool hasMark = viewer.HasBOM;  // of what is on the disk, which stays
-  CFormatSelectDlg dialog("Select File Encoding", encoding, codePage, hasMark);
-  if (dialog.Execute() != static_cast<int>(kEnter)) return true;
+  if (!AskForEncoding(encoding, codePage, viewer.HasBOM)) return true;
   viewer.SetEncoding(encoding, codePage);
   viewer.ReadAnew();
   return true;

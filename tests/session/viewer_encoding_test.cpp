@@ -34,6 +34,7 @@ TEST_F(ViewerEncoding, AltEChoosesIt) {
   s.Keys("Alt-E");
   EXPECT_TRUE(s.FindRow(" Select File Encoding "));
   s.Keys("Up Up Enter");
+  EXPECT_FALSE(s.FindRow("File Encoding"));  // the text is painted where the box was
   EXPECT_EQ(s.Encoding(), "CP819");
   EXPECT_EQ(s.Top(), "a b");
 }
