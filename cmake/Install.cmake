@@ -12,7 +12,7 @@ endif()
 
 install(TARGETS orvane RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT program)
 install(FILES ${orvaneHelpFile} DESTINATION ${orvaneShareDir} COMPONENT data)
-install(FILES data/syntax.ini DESTINATION ${orvaneShareDir} COMPONENT data)
+install(FILES data/syntax.ini DESTINATION ${orvaneShareDir} COMPONENT data RENAME orvanesyntax.ini)
 install(DIRECTORY data/manual/ DESTINATION ${orvaneDocDir}manual COMPONENT data FILES_MATCHING PATTERN "*.html")
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${orvaneDocDir} COMPONENT data)
 install(FILES data/icons/orvane.png DESTINATION ${orvaneIconDir}16x16/apps COMPONENT data)
