@@ -570,3 +570,11 @@ TEST_F(StdFileTest, NoTimeIsRefused) {
   ASSERT_EQ(Open("f", kNewFile), 0);
   EXPECT_EQ(file.SetTime(FileTime::None()), EINVAL);
 }
+
+TEST_F(StdFileTest, OpeningAFifoNeedNotWaitForItsOtherEnd) {
+  ASSERT_EQ(mkfifo(box.Path("fifo").c_str(), 0600), 0);
+  ASSERT_EQ(Open("fifo", kOpenRead | kOpenNoWait), 0);
+  EXPECT_NE(fcntl(file.Descriptor(), F_GETFL) & O_NONBLOCK, 0);
+  char byte = 0;
+  EXPECT_EQ(file.Read(&byte, 1), -1);
+}
