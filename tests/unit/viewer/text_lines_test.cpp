@@ -68,6 +68,13 @@ TEST(LineEnds, AGroupAtTheEndOfTheFileLeavesThePositionThere) {
   }
 }
 
+TEST(LineEnds, WhatIsCutOffBehindTheLastGroupBelongsToTheEnd) {
+  OpenText text("ab\n\xC3", kUtf8);
+  EXPECT_EQ(text.Line(), L"ab");
+  EXPECT_EQ(text.Position, text.FileSize);
+  EXPECT_TRUE(text.EndedInTerminator);
+}
+
 TEST(LineEnds, AnEmptyFileHasNoLine) {
   OpenText text("");
   EXPECT_EQ(text.Line(), kNoLine);
