@@ -34,3 +34,14 @@ ggggggaaaaaaosssgccccccccc     aaaaao o   o aaaaaao nnn
 okkkkk         aaaao ssssss     ggggggggggg     gggg
 )"));
 }
+
+TEST_F(Languages, HtmlAttributesMayBeginALine) {
+  EXPECT_TRUE(Coloured("a.html", R"(
+<A
+gg
+HREF="x y" TITLE='z'>it's</A
+ggggosssssaaaaaaosssg    ggg
+>it's
+g
+)"));
+}

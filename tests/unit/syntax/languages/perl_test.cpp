@@ -94,3 +94,10 @@ it's over
 ccccccccc
 )"));
 }
+
+TEST_F(Languages, PerlVariablesOfQuotesBeginNoStrings) {
+  EXPECT_TRUE(Coloured("a.pl", R"(
+local $" = ", "; print $`, $' . "c";
+kkkkk vv o sssso bbbbb vvo vv o ssso
+)"));
+}

@@ -31,3 +31,26 @@ ppeeepppkkkkkkkpppppCCCCCCpp
 ppgggg
 )"));
 }
+
+// The line's end leads nowhere by itself.
+TEST_F(Languages, XmlAttributesMayBeginALine) {
+  EXPECT_TRUE(Coloured("a.xml", R"(
+<a
+gg
+b="x y" c='z'/>it's
+gosssssaaosssgg
+<a
+gg
+"x > y">it's
+sssssssg
+)"));
+}
+
+TEST_F(Languages, XmlSignsWithABlankBehindThemAreNoEntities) {
+  EXPECT_TRUE(Coloured("a.xml", R"(
+<a b="c & d">e & f</a>
+gggaosssssssg     gggg
+<!DOCTYPE a [<!ENTITY % b "&c;"> %b;]>
+pppppppppppppppkkkkkkpppppseeesppeeepp
+)"));
+}
