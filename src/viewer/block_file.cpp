@@ -133,7 +133,8 @@ void CBlockFile::Read(Block& block, bool mayBeAhead) {
     read = ReadBlock(Descriptor(), block.offset, block.bytes.get(), kBlockSize);
   block.count = read.count;
   wasLong = read.wasLong;
-  FileSize = std::max(FileSize, block.offset + block.count);
+  // A look far behind the end must not make the file seem to reach there.
+  if (block.count > 0) FileSize = std::max(FileSize, block.offset + block.count);
   block.fileSizeThen = FileSize;
   if (block.offset == firstOffset) firstCount = block.count;
 }

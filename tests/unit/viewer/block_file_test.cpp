@@ -163,6 +163,18 @@ TEST_F(BlockFile, ABlockThatShowsMoreRaisesTheSize) {
   EXPECT_EQ(file.ByteAt(5), 'f');
 }
 
+TEST_F(BlockFile, ALookBehindTheEndDoesNotRaiseTheSize) {
+  OpenOn("abc");
+  file.RereadTail = true;
+  for (const int64_t offset : {int64_t{kBlock}, 7 * int64_t{kBlock} + 5, int64_t{1} << 60}) {
+    EXPECT_EQ(file.ByteAt(offset), -1);
+    EXPECT_EQ(file.FileSize, 3) << offset;
+  }
+  Append(std::string(kBlock, 'd'));
+  EXPECT_EQ(file.ByteAt(kBlock), 'd') << "and its block is looked at again";
+  EXPECT_EQ(file.FileSize, kBlock + 3);
+}
+
 TEST_F(BlockFile, GrowthIsNotLookedForUnlessAsked) {
   OpenOn("abc");
   EXPECT_FALSE(file.RereadTail);
