@@ -177,6 +177,7 @@ TEST(ByteSearch, LettersDigitsUnderscoreAndMostHighBytesMakeWords) {
 
 TEST(ByteSearch, AfterAPartOfAWordTheSearchGoesOnWithTheNextByte) {
   EXPECT_EQ(SearchedText("ab ab a").FindByteWord(L"ab a"), 3);
+  EXPECT_EQ(SearchedText("a ba ba").SearchBytes(L"a ba", 6, true, true, true, 819), 0);
   EXPECT_EQ(SearchedText("xab ab").FindByteWord(L"ab"), 4);
   EXPECT_EQ(SearchedText("ab abx").SearchBytes(L"ab", 5, true, true, true, 819), 0);
 }

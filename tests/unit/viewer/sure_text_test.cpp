@@ -49,8 +49,9 @@ TEST(SureText, WholeCharactersInTheirShortestFormAreSure) {
 }
 
 TEST(SureText, OtherBytesEndIt) {
-  for (const char* piece : {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF",
-                            "\xF8", "\xFF", "\xC3", "\xE4\xB8", "\xF0\x9F\x98", "\xC3\x28", "\xE4\x28\xB8"}) {
+  for (const char* piece :
+       {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xF8", "\xFF",
+        "\xF8\x88\x80\x80", "\xC3", "\xE4\xB8", "\xF0\x9F\x98", "\xC3\x28", "\xE4\x28\xB8"}) {
     EXPECT_EQ(Length(kLong + piece + kLong), 200) << piece;
     EXPECT_EQ(Length(kLong + piece), 200) << piece;
     const std::string text = kLong + piece + kLong;
