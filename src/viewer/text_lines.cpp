@@ -24,11 +24,6 @@ int TerminatorKind(int character) {
 
 bool EndsLine(int character) { return character < 1 || character == '\r' || character == '\n'; }
 
-// A byte that is a character and goes on with the line. A zero may be a blank.
-bool IsPlain(uint8_t byte, int firstNotPlain) {
-  return byte > '\r' ? byte < firstNotPlain : byte != 0 && byte != '\n' && byte != '\r';
-}
-
 }  // namespace
 
 const wchar_t* CTextFile::ReadLine(int& length, int maxChars) {
@@ -66,17 +61,22 @@ int CTextFile::TakeCharacters(int& length, int most) {
 }
 
 // The run of bytes from Position on that are characters by themselves, until the
-// line has most of them; their number. So text costs one look a block.
+// line has most of them; their number. So text costs one look a block, and a hole
+// of zeros that are blanks no more than text.
 int CTextFile::TakePlainBytes(int length, int most) {
   if (BytesPerUnit() > 1) return 0;
   const uint8_t* bytes = nullptr;
   const int there = std::min(BytesFrom(Position, bytes), most - length);
   const int firstNotPlain = Encoding == kUtf8 ? 0x80 : 0x100;
+  const int zero = KeepNul || Encoding == kUtf8 ? 0 : ' ';
   const wchar_t* const table = Encoding == kCodePageText ? translation.Text() : nullptr;
   wchar_t* const target = line.get() + length;
   int taken = 0;
-  for (; taken < there && IsPlain(bytes[taken], firstNotPlain); ++taken)
-    target[taken] = table ? table[bytes[taken]] : bytes[taken];
+  for (; taken < there; ++taken) {
+    const int character = bytes[taken] == 0 ? zero : bytes[taken];
+    if (EndsLine(character) || character >= firstNotPlain) break;
+    target[taken] = table ? table[character] : character;
+  }
   Position += taken;
   return taken;
 }
@@ -114,9 +114,10 @@ bool CTextFile::EnlargeLine() {
 
 // ---- the code page ---------------------------------------------------------
 
-// A zero shows as a dot. A page of pairs turns all bytes together into fewer
-// characters; there each byte is taken alone. For a page that is unknown the bytes
-// stand for themselves.
+// No text holds the byte 0, so a dot stands in its place; a zero ends the line or is
+// a blank before the table is asked. A page of pairs turns all bytes together into
+// fewer characters; there each byte is taken alone. For a page that is unknown the
+// bytes stand for themselves.
 void CTextFile::PrepareCodePage() {
   if (translationPage == CodePage && !translation.IsEmpty()) return;
   translationPage = CodePage;

@@ -107,6 +107,23 @@ TEST(LineEnds, AZeroIsABlankUnlessKeptButEndsALineOfUtf8) {
   }
 }
 
+TEST(LineEnds, ZerosThatAreBlanksAreReadInRunsAsOneByOne) {
+  const std::string hole(2 * kBlock, 0);
+  for (const int encoding : {kCodePageText, kUnknownEncoding}) {
+    OpenText text("a" + hole + "b\r\0\n"s + hole, encoding);
+    text.KeepNul = false;
+    EXPECT_EQ(text.Line(), L"a" + std::wstring(2 * kBlock, L' ') + L"b");
+    EXPECT_EQ(text.Position, 2 * kBlock + 3) << "a blank is no part of a line end";
+    EXPECT_EQ(text.Line(), L" ");
+    EXPECT_EQ(text.Line(kBlock), std::wstring(kBlock, L' '));
+    EXPECT_EQ(text.Line(), std::wstring(kBlock, L' '));
+    text.KeepNul = true;
+    text.Position = 0;
+    EXPECT_EQ(text.Line(), L"a");
+    EXPECT_EQ(text.Position, 2);
+  }
+}
+
 TEST(LineEnds, ForcedUtf8EndsLinesAtTheZerosThatTheDetectionStumbledOver) {
   OpenText text("caf\xC3\xA9\0bar\n"s);
   EXPECT_EQ(text.Encoding, kCodePageText);
