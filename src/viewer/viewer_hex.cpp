@@ -26,11 +26,12 @@ Westring HexPart(int64_t offset, const char* bytes, int n) {
   return LJust(text, kCharacterColumn);
 }
 
-// A page that is not known shows the bytes as they are.
+// A page that is not known shows the bytes as they are. One that is known may lack
+// some of them; the others keep their characters.
 Westring Characters(const char* bytes, int page) {
   Westring text;
-  if (!DecodeCodePage(bytes, page, text)) text = Westring(Estring(bytes));
-  return text;
+  DecodeCodePage(bytes, page, text);
+  return text.IsEmpty() ? Westring(Estring(bytes)) : text;
 }
 
 }  // namespace

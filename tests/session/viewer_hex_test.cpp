@@ -68,6 +68,13 @@ TEST_F(ViewerHex, AnUnknownPageShowsTheBytesThemselves) {
   EXPECT_EQ(Text(64, 1, 2), "áA");
 }
 
+TEST_F(ViewerHex, AByteThatThePageLacksLeavesItsNeighboursTheirCharacters) {
+  Show("\x93\x81\xC0", kCodePageText);
+  viewer->CodePage = 1252;
+  TurnToHex();
+  EXPECT_EQ(Text(64, 1, 3), "“⌂À");
+}
+
 TEST_F(ViewerHex, RowsBelowTheEndAreBlankAndCounted) {
   ShowHex(std::string(16 * 20 + 1, 'x'));
   EXPECT_EQ(viewer->BlankRows, 2);
