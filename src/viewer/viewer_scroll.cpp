@@ -48,8 +48,11 @@ bool CViewer::ScrollUp() {
 
 bool CViewer::ScrollTextDown() {
   if (BottomOffset < 0) return ShowGrowth();
-  // The last line may have been cut off by what was the end.
-  if (ShowsEnd() && (!ShowGrowth() || BottomOffset < 0)) return BottomOffset < 0;
+  if (ShowsEnd()) {
+    // The last line may have been cut off by what was the end.
+    if (!ShowGrowth()) return false;
+    if (BottomOffset < 0) return true;
+  }
 
   const bool hasUnseen = IsWrapped() && BottomWrapCol < BottomLine.Length();
   const int64_t line = hasUnseen ? BottomOffset : NextAfterBottom;
