@@ -174,7 +174,6 @@ void CViewer::KeepStatus() {
 Key CViewer::Run(const Westring& file, int64_t offset) {
   const ScreenForReading forReading;
   Reset();
-  path = file;
   DrawKeyBar();
   if (const int error = Open(file)) {
     Prompt(SystemError(error).Text(), file, kPromptOk);

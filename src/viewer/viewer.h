@@ -160,7 +160,6 @@ class CViewer : public CTextFile {
   int RowOf(int64_t line, int column) const;  // -1 if it is not on the screen
   void MoveTextAside(int64_t column, int length);
 
-  Westring path;
   std::unique_ptr<Win> screen, status;
   bool topLoaded = false;
   bool topExists = false;           // false where the file ends before the top
