@@ -129,8 +129,10 @@ bool CBlockFile::HasGrownTo(int64_t offset, const Block& block) const {
 
 void CBlockFile::Read(Block& block, bool mayBeAhead) {
   BlockRead read;
-  if (!mayBeAhead || !readAhead || !readAhead->Take(block.offset, block.bytes, read))
-    read = ReadBlock(Descriptor(), block.offset, block.bytes.get(), kBlockSize);
+  const bool isAhead = mayBeAhead && readAhead && readAhead->Take(block.offset, block.bytes, read);
+  // Read ahead before the file grew.
+  const bool isOutdated = read.count < kBlockSize && block.offset + read.count < FileSize;
+  if (!isAhead || isOutdated) read = ReadBlock(Descriptor(), block.offset, block.bytes.get(), kBlockSize);
   block.count = read.count;
   wasLong = read.wasLong;
   // A look far behind the end must not make the file seem to reach there.

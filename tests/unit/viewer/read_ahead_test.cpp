@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <fstream>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -177,6 +178,18 @@ TEST_F(ReadAheadTest, ReadingDownTheNextBlockComesFromTheThread) {
     device.WaitForOtherReads(10 - k);
   }
   EXPECT_EQ(device.OwnReads(), 2) << "9 and 8, before the direction was known";
+}
+
+TEST_F(ReadAheadTest, WhatWasReadBeforeTheFileGrewIsReadAgain) {
+  SlowDevice device(Path());
+  OpenFile();
+  EXPECT_EQ(BlockByte(11), 'l');
+  device.WaitForOtherReads(1);  // of the tail, which is asked for
+  EXPECT_EQ(BlockByte(5), 'f') << "waits for the end of that";
+  std::ofstream(Path(), std::ios::app | std::ios::binary) << std::string(3 * kBlock, 'z');
+  EXPECT_EQ(BlockByte(14), 'z');  // which shows that it grew
+  EXPECT_EQ(BlockByte(12), 'z');
+  EXPECT_EQ(file.ByteAt(12 * kBlock + 3), 'l') << "the tail ends with one";
 }
 
 TEST_F(ReadAheadTest, AnyOrderOfBlocksReadsRight) {
