@@ -23,15 +23,17 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 SOURCE = ROOT / "src"
-ROOMS = ["foundation", "config/values", "console", "dialogs", "panels", "config", "fileops", "shell", "program"]
+ROOMS = ["foundation", "config/values", "console", "dialogs", "panels", "config", "fileops", "syntax", "viewer", "shell",
+         "program"]
 TOOLKIT = re.compile(r"^(gtk|gdk|glib|gio|pango|cairo|atk|gtkmm|gdkmm|glibmm|giomm|pangomm|cairomm|sigc\+\+|X11)\b")
 MOST_LINES = 700
 TEXTS = {".h", ".cpp", ".py", ".mjs", ".sh", ".cmake", ".txt", ".html", ".json", ".1"}
 NOT_OURS = {".git", "build"}
 LAST_HELP_PAGE = 30000
-HELP_PAGES = [0, 1, 4, 5, 6, 100, 101, 102, 103, LAST_HELP_PAGE]
+HELP_PAGES = [0, 1, 2, 4, 5, 6, 100, 101, 102, 103, LAST_HELP_PAGE]
 INSTALLED = [
     "usr/share/orvane/orvane.ovd",
+    "usr/share/orvane/orvanesyntax.ini",
     "usr/share/doc/orvane/manual/orvane.html",
     "usr/share/doc/orvane/manual/index.html",
     "usr/share/icons/hicolor/16x16/apps/orvane.png",
