@@ -143,7 +143,8 @@ class CViewer : public CTextFile {
 
   // viewer_syntax.cpp: the highlighter to the state at offset
   void SyntaxSeek(int64_t offset);
-  void RememberState();  // the highlighter's, as that of Position
+  void RememberState();        // the highlighter's, as that of Position
+  bool seekBrokenOff = false;  // the highlighter's state is a guess
 
   // viewer_scroll.cpp
   bool HasGrown();  // and what is known of the last line is forgotten
@@ -162,7 +163,7 @@ class CViewer : public CTextFile {
 
   std::unique_ptr<Win> screen, status;
   bool topLoaded = false;
-  bool topExists = false;           // false where the file ends before the top
+  bool topExists = false;            // false where the file ends before the top
   std::vector<ScreenRow> rowStarts;  // of a text
   int64_t longLineEnd = 0;           // the line from LongLineStart has no end before it
   int longLineEncoding = kUnknownEncoding;

@@ -16,6 +16,7 @@ void CViewer::SyntaxSeek(int64_t offset) {
   const TPositionSyntaxState* const entry = StateStore.Find(offset);
   if (entry == nullptr) return;
   Highlighter.CopyStack(entry->State);
+  seekBrokenOff = false;
   const int64_t from = std::max(entry->Position, DataStart);
 
   CellString scratch;
@@ -28,12 +29,16 @@ void CViewer::SyntaxSeek(int64_t offset) {
     if (Position - from >= kCheckpointDistance) RememberState();
     if (Position - from > kLongSeek) {
       if (!breaking) breaking.emplace();
-      if (breaking->Stopped()) break;
+      if (breaking->Stopped()) {
+        seekBrokenOff = true;
+        break;
+      }
     }
   }
 }
 
-// What has no end yet may go on when the file grows: no place to start from.
+// What has no end yet may go on when the file grows: no place to start from. Nor is
+// what follows a seek that was broken off, or its wrong colours would stay.
 void CViewer::RememberState() {
-  if (Highlighter.Active && EndedInTerminator) StateStore.Remember(Position, Highlighter);
+  if (Highlighter.Active && EndedInTerminator && !seekBrokenOff) StateStore.Remember(Position, Highlighter);
 }

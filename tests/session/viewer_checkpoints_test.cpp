@@ -121,6 +121,26 @@ TEST_F(ViewerCheckpoints, AnUnfinishedLineLeavesNone) {
   EXPECT_EQ(Checkpoints(), (std::vector<int64_t>{0}));
 }
 
+TEST_F(ViewerCheckpoints, ASeekThatIsBrokenOffLeavesNoWrongColours) {
+  constexpr int kLine = 1024, kLines = 17 << 10, kMostUnasked = 16 << 10;
+  const std::string line = std::string(kLine - 1, 'x') + "\n";
+  std::string text;
+  for (int i = 0; i < kLines; ++i) text += i == kLines - 100 ? "/*" + line.substr(2) : line;
+  ShowColoured(text);
+  TEvent escape;
+  escape.type = kEventKey;
+  escape.code = kEscape;
+  Console->Events().Put(new TEvent(escape));
+  viewer->SetTop((kLines - 50) * kLine);
+  viewer->Repaint();
+  EXPECT_FALSE(Console->EventPending());
+  EXPECT_EQ(Colour(0), kPlain);  // the comment begins behind the break
+  EXPECT_LE(Checkpoints().back(), (kMostUnasked + 1) * kLine);
+  viewer->ScrollUp();
+  viewer->Repaint();
+  for (int row = 0; row < kHeight; ++row) EXPECT_EQ(Colour(row), kComment);
+}
+
 TEST_F(ViewerCheckpoints, AnyStepsLeaveTheColoursOfARepaint) {
   std::string text;
   for (int i = 0; i < 300; ++i) {
