@@ -23,8 +23,9 @@ class CBlockFile : public StdFile {
 
   // 0 to 255, or -1 at and past the end of the file and where nothing can be read.
   int ByteAt(int64_t offset) {
-    const int64_t inBlock = offset - firstOffset;
-    if (inBlock >= 0 && inBlock < firstCount) return firstBytes[inBlock];
+    // Of any two offsets: what lies before the block wraps far behind it.
+    const uint64_t inBlock = static_cast<uint64_t>(offset) - static_cast<uint64_t>(firstOffset);
+    if (inBlock < static_cast<uint64_t>(firstCount)) return firstBytes[inBlock];
     return ByteElsewhere(offset);
   }
 

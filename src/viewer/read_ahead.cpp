@@ -36,9 +36,9 @@ BlockRead ReadBlock(int fd, int64_t offset, uint8_t* bytes, int size) {
 }
 
 int64_t NextBlockOffset(int64_t before, int64_t now, int blockSize) {
-  if (before < 0 || now == before + blockSize) return now + blockSize;
-  if (now == before - blockSize && now >= blockSize) return now - blockSize;
-  return -1;
+  const int64_t step = before < 0 ? blockSize : now - before;
+  if (step == blockSize) return now <= INT64_MAX - blockSize ? now + blockSize : -1;
+  return step == -blockSize && now >= blockSize ? now - blockSize : -1;
 }
 
 ReadAhead::ReadAhead(int fileDescriptor, int size)

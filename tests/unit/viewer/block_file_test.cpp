@@ -96,11 +96,14 @@ TEST_F(BlockFile, NothingIsBeforeTheBeginningNorBehindTheEnd) {
   EXPECT_EQ(file.ByteAt(-1), -1);
   EXPECT_EQ(file.ByteAt(3), -1);
   EXPECT_EQ(file.ByteAt(int64_t{1} << 60), -1);
+  EXPECT_EQ(file.ByteAt(INT64_MAX), -1);
+  EXPECT_EQ(file.ByteAt(INT64_MIN), -1);
 }
 
 TEST_F(BlockFile, WithoutAFileThereIsNoByte) {
   const uint8_t* bytes = nullptr;
   EXPECT_EQ(file.ByteAt(0), -1);
+  EXPECT_EQ(file.ByteAt(INT64_MAX), -1);
   EXPECT_EQ(file.ByteAt(-5), -1) << "the empty table must not look like a block before the beginning";
   EXPECT_EQ(file.BytesFrom(0, bytes), 0);
   EXPECT_EQ(file.BytesUpTo(0, bytes), 0);

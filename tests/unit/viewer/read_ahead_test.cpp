@@ -96,6 +96,14 @@ TEST(ReadingDirection, AJumpHasNone) {
   EXPECT_EQ(NextBlockOffset(kBlock, kBlock, kBlock), -1);
 }
 
+TEST(ReadingDirection, EndsWithTheOffsetsThatThereAre) {
+  constexpr int64_t kLast = INT64_MAX - (kBlock - 1);
+  EXPECT_EQ(NextBlockOffset(kLast - kBlock, kLast, kBlock), -1);
+  EXPECT_EQ(NextBlockOffset(-1, kLast, kBlock), -1);
+  EXPECT_EQ(NextBlockOffset(kLast, kLast - kBlock, kBlock), kLast - 2 * kBlock);
+  EXPECT_EQ(NextBlockOffset(kLast, 0, kBlock), -1);
+}
+
 TEST_F(ReadAheadTest, WhatWasAskedForIsGivenForAnotherBuffer) {
   SlowDevice device(Path());
   ReadAhead ahead(fd, kBlock);
