@@ -205,6 +205,7 @@ bool LeaveWithKey(Viewing& viewing, Key key) {
 bool LeaveForEditor(Viewing& viewing, Key key) {
   if (!EditInsteadOfViewing) return true;
   viewing.goesToEditor = true;
+  viewing.follow.Stop();  // the editor has a last row of its own
   return Leave(viewing, key);
 }
 

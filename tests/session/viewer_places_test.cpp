@@ -2,6 +2,7 @@
 // the one asked for.
 #include <gtest/gtest.h>
 
+#include "console/console.h"
 #include "session/viewer_screen.h"
 #include "viewer/file_status.h"
 #include "viewer/search_settings.h"
@@ -100,8 +101,13 @@ namespace {
 Westring EditedFile;
 int64_t EditedAt = -1;
 int64_t RememberedAt = -1;
+std::string LastRow;  // that the editor finds
 
 void Edit(const Westring& path, int64_t offset) {
+  CellString row;
+  Console->ReadRow(row, 0, kBarRow, ScreenColumns, 1);
+  LastRow.clear();
+  for (int x = 0; x < row.Length(); ++x) LastRow += static_cast<char>(row[x].character);
   EditedFile = path;
   EditedAt = offset;
   RememberedAt = FileStatuses.Record(path).ViewerPos;
@@ -127,6 +133,13 @@ TEST_F(ViewerEditing, ShiftF4GoesOnInTheEditorAtTheTop) {
   EXPECT_EQ(s.Under(kLeftSide), "file");
   s.Keys("F3");  // the editor was there last
   EXPECT_EQ(s.Top(), "Line 8");
+}
+
+TEST_F(ViewerEditing, TheFileIsNoLongerFollowedThen) {
+  ViewerSession s(ManyLines(100));
+  s.Keys("Alt-F Shift-F4");
+  EXPECT_EQ(LastRow.find("Follow Mode"), std::string::npos) << LastRow;
+  EXPECT_NE(LastRow.find("7Search"), std::string::npos) << LastRow;
 }
 
 // ---- from the command line and as an argument
