@@ -112,8 +112,6 @@ void CViewer::SetTop(int64_t offset) {
 }
 
 void CViewer::ReadAnew() {
-  StateStore.Reset();
-  LongLineStart = LongLinePos = 0;
   ForgetTop();
   Repaint();
 }
@@ -124,6 +122,7 @@ void CViewer::SetEncoding(int encoding, int codePage) {
 }
 
 void CViewer::SetHighlighting(bool on) {
+  StateStore.Reset();
   Highlighter.Clear();
   if (on)
     Highlighter.Load(FindSyntaxFile(), LastComponent(FullName.Text()));

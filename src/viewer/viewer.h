@@ -38,12 +38,11 @@ class CViewer : public CTextFile {
   void SetTop(int64_t offset);
   // The top line has to be made anew for the next repaint.
   void ForgetTop() { topLoaded = false; }
-  // What the lines are made of has changed: all that is known of them goes, and the
-  // screen is repainted.
+  // What the lines are made of has changed; the states of the highlighter stay.
   void ReadAnew();
   // codePage counts for kCodePageText only.
   void SetEncoding(int encoding, int codePage);
-  // Colours by the definition for this file, or not at all.
+  // Colours by the definition for this file, or not at all; from the first line on.
   void SetHighlighting(bool on);
 
   // ---- lines (viewer_lines.cpp); all are offsets in bytes

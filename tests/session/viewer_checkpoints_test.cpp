@@ -141,6 +141,30 @@ TEST_F(ViewerCheckpoints, ASeekThatIsBrokenOffLeavesNoWrongColours) {
   for (int row = 0; row < kHeight; ++row) EXPECT_EQ(Colour(row), kComment);
 }
 
+TEST_F(ViewerCheckpoints, AnotherEncodingOrTabWidthKeepsThem) {
+  ShowColoured(Lines(200));
+  viewer->SyntaxSeek(4096 + 64);
+  const std::vector<int64_t> before = Checkpoints();
+  ASSERT_EQ(before.size(), 3u);
+  const auto areKept = [&] {
+    const std::vector<int64_t> now = Checkpoints();
+    return std::includes(now.begin(), now.end(), before.begin(), before.end());
+  };
+  viewer->SetEncoding(kCodePageText, 866);
+  viewer->ReadAnew();
+  EXPECT_TRUE(areKept());
+  Options::TabWidth = 4;
+  viewer->ReadAnew();
+  EXPECT_TRUE(areKept());
+}
+
+TEST_F(ViewerCheckpoints, TogglingTheColoursDropsThem) {
+  ShowColoured(Lines(200));
+  viewer->SyntaxSeek(4096 + 64);
+  viewer->SetHighlighting(false);
+  EXPECT_EQ(Checkpoints(), (std::vector<int64_t>{0}));
+}
+
 TEST_F(ViewerCheckpoints, AnyStepsLeaveTheColoursOfARepaint) {
   std::string text;
   for (int i = 0; i < 300; ++i) {
