@@ -58,7 +58,6 @@ class CViewer : public CTextFile {
   // To the line that holds lineStart + delta, with length cells of it marked; -1
   // for the length of SearchString.
   void ShowAt(int64_t lineStart, int64_t delta, int length);
-  Westring PositionText();  // "%3d.%02d%%", how much lies above the last row
   void DrawStatus();
   void DrawKeyBar();
 
@@ -79,21 +78,12 @@ class CViewer : public CTextFile {
   int64_t Search(const Westring& text, int mode);
 
   Westring FullName;
-  int ScreenWidth = 0, ScreenHeight = 0;  // cells of the text
-  int64_t TopOffset = 0;                  // of the line at the top
-  int TopWrapCol = 0;                     // the cell of it that the top row begins with
-  int64_t NextAfterTop = 0;
-  CellString TopLine, BottomLine;
+  int64_t TopOffset = 0;      // of the line at the top
   int64_t BottomOffset = -1;  // of the line in the last row; -1 where the file ends above it
-  int BottomWrapCol = 0;      // cells of it that are on the screen
-  int64_t NextAfterBottom = 0;
-  int BlankRows = 0;
-  int LeftCol = 0;  // cells; unwrapped text only
+  int LeftCol = 0;            // cells; unwrapped text only
   bool HexMode = false;
   int64_t SearchPos = -1;  // -1 for not set
   CSyntaxHighlighter Highlighter;
-  CSyntaxStateStore StateStore;
-  int64_t LongLineStart = 0, LongLinePos = 0;  // of one very long line
 
  protected:
   // ---- for the parts of the viewer only
@@ -142,8 +132,7 @@ class CViewer : public CTextFile {
 
   // viewer_syntax.cpp: the highlighter to the state at offset
   void SyntaxSeek(int64_t offset);
-  void RememberState();        // the highlighter's, as that of Position
-  bool seekBrokenOff = false;  // the highlighter's state is a guess
+  void RememberState();  // the highlighter's, as that of Position
 
   // viewer_scroll.cpp
   bool HasGrown();  // and what is known of the last line is forgotten
@@ -156,16 +145,27 @@ class CViewer : public CTextFile {
   bool StepTopUp();  // one row, nothing drawn
 
   // viewer_position.cpp
+  Westring PositionText();  // "%3d.%02d%%", how much lies above the last row
   int64_t ColumnAt(int64_t lineStart, int64_t delta);
   int RowOf(int64_t line, int column) const;  // -1 if it is not on the screen
   void MoveTextAside(int64_t column, int length);
 
+  int ScreenWidth = 0, ScreenHeight = 0;  // cells of the text
+  int TopWrapCol = 0;                     // the cell of the top line that the top row begins with
+  int64_t NextAfterTop = 0;
+  CellString TopLine, BottomLine;
+  int BottomWrapCol = 0;  // cells of the bottom line that are on the screen
+  int64_t NextAfterBottom = 0;
+  int BlankRows = 0;
+  CSyntaxStateStore StateStore;
+  int64_t LongLineStart = 0, LongLinePos = 0;  // of one very long line
   std::unique_ptr<Win> screen, status;
   bool topLoaded = false;
   bool topExists = false;            // false where the file ends before the top
   std::vector<ScreenRow> rowStarts;  // of a text
   int64_t longLineEnd = 0;           // the line from LongLineStart has no end before it
   int longLineEncoding = kUnknownEncoding;
+  bool seekBrokenOff = false;  // the highlighter's state is a guess
 
  private:
   void Reset();

@@ -24,9 +24,19 @@ class OpenViewer : public CViewer {
     Repaint();
   }
 
-  using CViewer::LoadTopLine;
-  using CViewer::StepTopUp;
+  using CViewer::BlankRows;
+  using CViewer::BottomLine;
+  using CViewer::BottomWrapCol;
+  using CViewer::LongLinePos;
+  using CViewer::LongLineStart;
+  using CViewer::NextAfterBottom;
+  using CViewer::NextAfterTop;
+  using CViewer::PositionText;
+  using CViewer::ScreenHeight;
+  using CViewer::ScreenWidth;
+  using CViewer::StateStore;
   using CViewer::SyntaxSeek;
+  using CViewer::TopWrapCol;
 
   // What is known of the screen beside its cells.
   std::string Bookkeeping() const {
