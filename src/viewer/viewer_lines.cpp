@@ -165,6 +165,9 @@ int64_t CViewer::PieceStart(int64_t begin, int64_t end) {
 int64_t CViewer::LineBefore(int64_t offset) {
   int64_t start = PrevLine(offset);
   if (HexMode || offset - start >= kLongestLine) return start;
-  for (int64_t next = NextLine(start); next > start && next < offset; next = NextLine(next)) start = next;
+  for (int64_t next = NextLine(start); next > start && next < offset; next = NextLine(next)) {
+    if (ByteAt(next) < 0) break;  // a file that has become shorter has no line there
+    start = next;
+  }
   return start;
 }

@@ -315,6 +315,14 @@ TEST_F(ViewerScroll, EndFollowsTheFile) {
   EXPECT_EQ(Line(22), "more");
 }
 
+TEST_F(ViewerScroll, TheEndOfAFileThatHasShrunkIsInTheLastRow) {
+  Show(NumberedLines(100));
+  ASSERT_EQ(truncate(texts.Path("text").c_str(), At(51)), 0);
+  EXPECT_TRUE(viewer->GoEnd());
+  EXPECT_EQ(Line(0), "28");
+  EXPECT_EQ(Line(22), "50");
+}
+
 TEST_F(ViewerScroll, WhatShrankEndsWhereItsDataEnd) {
   Show(NumberedLines(50000));
   const int64_t size = viewer->FileSize;
