@@ -2,16 +2,12 @@
 #include "viewer/match_filter.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
-#include <iterator>
 
 namespace {
 
-using Lanes = uint8_t __attribute__((vector_size(16)));
-constexpr int kLanes = sizeof(Lanes);
-constexpr int kChunk = 4 * kLanes;  // compared between two decisions
-constexpr int kQuickAnchors = 2;    // those that decide about a chunk
+constexpr size_t kMostBytes = 4;    // a place with more does not sort out enough
+constexpr size_t kMostAnchors = 4;  // looked at before the whole match is
 
 // How often a byte is met in texts, roughly: only the order counts.
 int Commonness(uint8_t byte) {
@@ -31,129 +27,93 @@ int Commonness(const MatchPlace& place) {
   return sum;
 }
 
-template <int kBytes>
-auto Among(const uint8_t* bytes, const uint8_t* wanted) {
-  Lanes lanes;
-  memcpy(&lanes, bytes, sizeof lanes);
-  auto found = lanes == wanted[0];
-  for (int i = 1; i < kBytes; ++i) found |= lanes == wanted[i];
-  return found;
-}
+// What the library is asked to look through at a time. A caller may come back
+// soon, and a form of a letter that is nowhere near would be looked for again.
+constexpr int kWindow = 1024;
 
-// The first and the last of the lanes that are set; -1 if none is.
-using Halves = uint64_t[2];
+// The nearest place of any of some bytes within a window, in one direction. Each
+// byte is looked for again only where its place has been passed.
+class NearestByte {
+ public:
+  NearestByte(const std::vector<uint8_t>& wanted, const uint8_t* bytes) : wanted(wanted), bytes(bytes) {}
 
-int FirstLane(const Halves& halves) {
-  static_assert(std::endian::native == std::endian::little);
-  if (halves[0] != 0) return std::countr_zero(halves[0]) / 8;
-  return halves[1] != 0 ? 8 + std::countr_zero(halves[1]) / 8 : -1;
-}
+  // The first i of from to to - 1, or to; from may only rise.
+  int First(int from, int to) {
+    int nearest = to;
+    for (size_t k = 0; k < wanted.size(); ++k) {
+      if (!isKnown[k] || places[k] < from)
+        Keep(k, memchr(bytes + from, wanted[k], static_cast<size_t>(to - from)), to);
+      nearest = std::min(nearest, places[k]);
+    }
+    return nearest;
+  }
 
-int LastLane(const Halves& halves) {
-  if (halves[1] != 0) return 15 - std::countl_zero(halves[1]) / 8;
-  return halves[0] != 0 ? 7 - std::countl_zero(halves[0]) / 8 : -1;
-}
+  // The last i of from to to - 1, or from - 1; to may only fall.
+  int Last(int from, int to) {
+    int nearest = from - 1;
+    for (size_t k = 0; k < wanted.size(); ++k) {
+      if (!isKnown[k] || places[k] >= to)
+        Keep(k, memrchr(bytes + from, wanted[k], static_cast<size_t>(to - from)), from - 1);
+      nearest = std::max(nearest, places[k]);
+    }
+    return nearest;
+  }
+
+ private:
+  void Keep(size_t k, const void* found, int otherwise) {
+    isKnown[k] = true;
+    places[k] = found ? static_cast<int>(static_cast<const uint8_t*>(found) - bytes) : otherwise;
+  }
+
+  const std::vector<uint8_t>& wanted;
+  const uint8_t* const bytes;
+  bool isKnown[kMostBytes] = {};
+  int places[kMostBytes] = {};
+};
 
 }  // namespace
 
 MatchFilter::MatchFilter(const std::vector<MatchPlace>& places) {
-  std::vector<const MatchPlace*> useful;
   for (const MatchPlace& place : places) {
     isNowhere = isNowhere || place.bytes.empty();
-    if (place.bytes.size() <= kMostBytes) useful.push_back(&place);
+    if (place.bytes.size() <= kMostBytes) anchors.push_back(place);
   }
-  if (isNowhere || useful.empty()) return;
-  std::stable_sort(useful.begin(), useful.end(),
-                   [](const MatchPlace* a, const MatchPlace* b) { return Commonness(*a) < Commonness(*b); });
-  // Next to the rarest, one that differs is worth more: the rarest may come in
-  // long runs.
-  const auto second = std::find_if(useful.begin(), useful.end(),
-                                   [&](const MatchPlace* place) { return place->bytes != useful[0]->bytes; });
-  if (second != useful.end()) std::rotate(useful.begin() + 1, second, second + 1);
-  while (useful.size() < kQuickAnchors) useful.push_back(useful[0]);
-  if (useful.size() > kMostAnchors) useful.resize(kMostAnchors);
-  for (const MatchPlace* place : useful) AddAnchor(*place);
-}
-
-void MatchFilter::AddAnchor(const MatchPlace& place) {
-  Anchor& anchor = anchors[anchorCount++];
-  anchor.offset = place.offset;
-  for (int i = 0; i < kMostBytes; ++i) anchor.bytes[i] = place.bytes[i % place.bytes.size()];
-  mostBytes = std::max(mostBytes, static_cast<int>(place.bytes.size()));
-  lowest = std::min(lowest, place.offset);
-  highest = std::max(highest, place.offset);
+  std::stable_sort(anchors.begin(), anchors.end(),
+                   [](const MatchPlace& a, const MatchPlace& b) { return Commonness(a) < Commonness(b); });
+  if (anchors.size() > kMostAnchors) anchors.resize(kMostAnchors);
+  for (const MatchPlace& anchor : anchors) {
+    lowest = std::min(lowest, anchor.offset);
+    highest = std::max(highest, anchor.offset);
+  }
 }
 
 bool MatchFilter::MayBeAt(const uint8_t* place) const {
-  for (int i = 0; i < anchorCount; ++i) {
-    const Anchor& anchor = anchors[i];
-    const uint8_t* end = std::end(anchor.bytes);
-    if (std::find(anchor.bytes, end, place[anchor.offset]) == end) return false;
-  }
-  return true;
-}
-
-// The lanes in which the first count anchors have their bytes.
-template <int kBytes>
-auto MatchFilter::Candidates(const uint8_t* bytes, int count) const {
-  auto found = Among<kBytes>(bytes + anchors[0].offset, anchors[0].bytes);
-  for (int i = 1; i < count; ++i) found &= Among<kBytes>(bytes + anchors[i].offset, anchors[i].bytes);
-  return found;
-}
-
-template <int kBytes>
-bool MatchFilter::ChunkMayHold(const uint8_t* chunk) const {
-  auto any = Candidates<kBytes>(chunk, kQuickAnchors);
-  for (int i = kLanes; i < kChunk; i += kLanes) any |= Candidates<kBytes>(chunk + i, kQuickAnchors);
-  Halves halves;
-  memcpy(halves, &any, sizeof halves);
-  return (halves[0] | halves[1]) != 0;
-}
-
-template <int kBytes>
-int MatchFilter::FirstWith(const uint8_t* bytes, int from, int to) const {
-  int i = from;
-  for (; to - i >= kChunk; i += kChunk) {
-    if (!ChunkMayHold<kBytes>(bytes + i)) continue;
-    for (int lanes = i; lanes < i + kChunk; lanes += kLanes) {
-      const auto found = Candidates<kBytes>(bytes + lanes, anchorCount);
-      Halves halves;
-      memcpy(halves, &found, sizeof halves);
-      if (const int lane = FirstLane(halves); lane >= 0) return lanes + lane;
-    }
-  }
-  while (i < to && !MayBeAt(bytes + i)) ++i;
-  return i;
-}
-
-template <int kBytes>
-int MatchFilter::LastWith(const uint8_t* bytes, int from, int to) const {
-  int end = to;
-  for (; end - from >= kChunk; end -= kChunk) {
-    if (!ChunkMayHold<kBytes>(bytes + end - kChunk)) continue;
-    for (int lanes = end - kLanes; lanes >= end - kChunk; lanes -= kLanes) {
-      const auto found = Candidates<kBytes>(bytes + lanes, anchorCount);
-      Halves halves;
-      memcpy(halves, &found, sizeof halves);
-      if (const int lane = LastLane(halves); lane >= 0) return lanes + lane;
-    }
-  }
-  while (end > from && !MayBeAt(bytes + end - 1)) --end;
-  return end - 1;
+  return std::all_of(anchors.begin(), anchors.end(), [place](const MatchPlace& anchor) {
+    return std::find(anchor.bytes.begin(), anchor.bytes.end(), place[anchor.offset]) != anchor.bytes.end();
+  });
 }
 
 int MatchFilter::First(const uint8_t* bytes, int from, int to) const {
   if (from >= to || isNowhere) return std::max(from, to);
-  if (anchorCount == 0) return from;
-  if (mostBytes == 1) return FirstWith<1>(bytes, from, to);
-  if (mostBytes == 2) return FirstWith<2>(bytes, from, to);
-  return FirstWith<kMostBytes>(bytes, from, to);
+  if (anchors.empty()) return from;
+  for (int i = from; i < to;) {
+    const int end = std::min(to, i + kWindow);
+    NearestByte rarest(anchors[0].bytes, bytes + anchors[0].offset);
+    for (i = rarest.First(i, end); i < end; i = rarest.First(i + 1, end))
+      if (MayBeAt(bytes + i)) return i;
+  }
+  return to;
 }
 
 int MatchFilter::Last(const uint8_t* bytes, int from, int to) const {
   if (from >= to || isNowhere) return from - 1;
-  if (anchorCount == 0) return to - 1;
-  if (mostBytes == 1) return LastWith<1>(bytes, from, to);
-  if (mostBytes == 2) return LastWith<2>(bytes, from, to);
-  return LastWith<kMostBytes>(bytes, from, to);
+  if (anchors.empty()) return to - 1;
+  for (int end = to; end > from;) {
+    const int begin = std::max(from, end - kWindow);
+    NearestByte rarest(anchors[0].bytes, bytes + anchors[0].offset);
+    while ((end = rarest.Last(begin, end)) >= begin)
+      if (MayBeAt(bytes + end)) return end;
+    end = begin;
+  }
+  return from - 1;
 }

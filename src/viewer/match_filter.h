@@ -1,5 +1,5 @@
-// A quick look for where a text may stand among bytes: some of its bytes, the
-// rarest, are compared in many places at a time.
+// A quick look for where a text may stand among bytes: goes from one place of its
+// rarest byte to the next.
 #pragma once
 
 #include <cstdint>
@@ -27,28 +27,9 @@ class MatchFilter {
   int Highest() const { return highest; }  // 0 or above
 
  private:
-  static constexpr int kMostBytes = 4;  // a place with more does not sort out enough
-  static constexpr int kMostAnchors = 4;
-
-  struct Anchor {
-    int offset = 0;
-    uint8_t bytes[kMostBytes] = {};  // some of them twice, where there are less
-  };
-
-  void AddAnchor(const MatchPlace& place);
   bool MayBeAt(const uint8_t* place) const;
-  template <int kBytes>
-  int FirstWith(const uint8_t* bytes, int from, int to) const;
-  template <int kBytes>
-  int LastWith(const uint8_t* bytes, int from, int to) const;
-  template <int kBytes>
-  auto Candidates(const uint8_t* bytes, int count) const;
-  template <int kBytes>
-  bool ChunkMayHold(const uint8_t* chunk) const;
 
   bool isNowhere = false;
-  int mostBytes = 1;  // of a place
-  Anchor anchors[kMostAnchors];
-  int anchorCount = 0;  // 0: a match may be anywhere
+  std::vector<MatchPlace> anchors;  // the rarest first; none: a match may be anywhere
   int lowest = 0, highest = 0;
 };
