@@ -51,14 +51,11 @@ int64_t CViewer::Search(const Westring& text, int mode) {
 }
 
 void SearchAndShow(CViewer& viewer, bool asks) {
-  const int64_t before = viewer.SearchPos;
-  if (before < 0) viewer.SearchPos = VisibleStart(viewer);
+  if (viewer.SearchPos < 0) viewer.SearchPos = VisibleStart(viewer);
   const int mode = !asks ? kSearchAgain : viewer.SearchPos == viewer.TopOffset ? kSearchFromHere : kSearchOn;
   const int64_t delta = viewer.Search(SearchString, mode);
   if (delta >= 0)
     viewer.ShowAt(viewer.SearchPos, delta, kWholeSearchString);
   else if (delta == kSearchNone)
     Prompt(L"String not found", L"", kPromptOk);
-  else
-    viewer.SearchPos = before;
 }

@@ -135,6 +135,13 @@ TEST_F(ViewerSearch, EscInTheDialogLeavesAllAsItWas) {
   EXPECT_EQ(MarkedLine(s), "Line 600 needle");
 }
 
+// Where a search begins is set before the question, and by the direction of then.
+TEST_F(ViewerSearch, ASearchThatWasNotBegunHasItsStartSet) {
+  ViewerSession s(Haystack());
+  s.Keys("Alt-L '500' Enter F7 Esc ? 'Line' Enter");
+  EXPECT_EQ(MarkedLine(s), "Line 499");
+}
+
 TEST_F(ViewerSearch, NothingIsSearchedForWhereNothingWasTyped) {
   ViewerSession s(Haystack());
   const std::string before = s.Screen();
