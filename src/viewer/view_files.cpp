@@ -6,6 +6,7 @@
 #include "config/values/colours.h"
 #include "foundation/paths.h"
 #include "panels/draw_panel.h"
+#include "panels/navigation.h"
 #include "viewer/viewer.h"
 
 bool (*ExtractForView)(TPanel& panel, const entry& e, Westring& path) = nullptr;
@@ -48,6 +49,7 @@ class PanelWalk {
     entry& e = *panel.entries[index];
     Westring path;
     if (!FindFile(e, path)) return kEscape;
+    SetAppTitle(e.name);
     const Key key = viewer.Run(path, e.treeLink);
     Refresh(e);
     return key;

@@ -11,6 +11,7 @@
 #include "foundation/paths.h"
 #include "panels/panel_path.h"
 #include "viewer/code_page_list.h"
+#include "viewer/file_status.h"
 #include "viewer/view_files.h"
 #include "viewer/viewer_goto.h"
 #include "viewer/viewer_keys.h"

@@ -10,8 +10,9 @@
 #include "console/input.h"
 #include "dialogs/win.h"
 #include "syntax/state_store.h"
-#include "viewer/file_status.h"
 #include "viewer/text_file.h"
+
+struct HISTREC;
 
 enum SearchMode {
   kSearchAgain = 0,     // asks nothing
@@ -69,7 +70,7 @@ class CViewer : public CTextFile {
   bool PageUp();
   void GoHome();
   bool GoEnd();
-  void MoveSideways(int cells);  // and bytes in hex mode
+  bool MoveSideways(int cells);  // and bytes in hex mode
 
   // ---- search (viewer_search.cpp)
 

@@ -66,8 +66,7 @@ bool ToggleHex(Viewing& viewing, Key) {
 
 bool SetTabWidth(Viewing& viewing, Key key) {
   Options::TabWidth = static_cast<int>(key - kAlt1) + 1;
-  viewing.viewer.ForgetTop();
-  viewing.viewer.Repaint();
+  viewing.viewer.ReadAnew();
   return true;
 }
 
@@ -132,21 +131,14 @@ bool GoDown(Viewing& viewing, Key) { return viewing.viewer.ScrollDown(); }
 bool GoPageUp(Viewing& viewing, Key) { return viewing.viewer.PageUp(); }
 bool GoPageDown(Viewing& viewing, Key) { return viewing.viewer.PageDown(); }
 
-bool GoSideways(CViewer& viewer, int distance) {
-  const int64_t offset = viewer.TopOffset;
-  const int column = viewer.LeftCol;
-  viewer.MoveSideways(distance);
-  return viewer.TopOffset != offset || viewer.LeftCol != column;
-}
-
 template <int direction>
 bool GoSide(Viewing& viewing, Key) {
-  return GoSideways(viewing.viewer, direction * (viewing.viewer.HexMode ? 1 : kSideStep));
+  return viewing.viewer.MoveSideways(direction * (viewing.viewer.HexMode ? 1 : kSideStep));
 }
 
 template <int direction>
 bool GoFarSide(Viewing& viewing, Key) {
-  return GoSideways(viewing.viewer, direction * kWideStep);
+  return viewing.viewer.MoveSideways(direction * kWideStep);
 }
 
 bool AskForLine(Viewing& viewing, Key) {

@@ -179,16 +179,17 @@ bool CViewer::GoEnd() {
 
 // ---- sideways ---------------------------------------------------------------
 
-void CViewer::MoveSideways(int cells) {
+bool CViewer::MoveSideways(int cells) {
   if (HexMode) {
     const int64_t top = std::clamp<int64_t>(TopOffset + cells, 0, FileSize);
-    if (top == TopOffset) return;
+    if (top == TopOffset) return false;
     SetTop(top);
     SearchPos = -1;
   } else {
     const int left = IsWrapped() ? LeftCol : std::clamp(LeftCol + cells, 0, kMostColumns);
-    if (left == LeftCol) return;
+    if (left == LeftCol) return false;
     LeftCol = left;
   }
   Repaint();
+  return true;
 }

@@ -43,6 +43,15 @@ TEST(Viewer, F3ShowsAFileAndEscBringsThePanelsBack) {
   EXPECT_TRUE(d.Eventually([&] { return d.Title() == title; }));
 }
 
+TEST(Viewer, TheTitleNamesTheFileThatTheWalkHasComeTo) {
+  Desktop d({{"left/a.txt", "one\n"}, {"left/b.txt", "two\n"}});
+  d.Keys("Down F3");
+  ASSERT_TRUE(d.Eventually([&] { return d.Row(1).starts_with("one "); }));
+  d.Keys("Alt-Down");
+  EXPECT_TRUE(d.Eventually([&] { return d.Row(1).starts_with("two "); }));
+  EXPECT_TRUE(d.Eventually([&] { return d.Title() == "Orvane: b.txt"; }));
+}
+
 TEST(Viewer, AHeldButtonScrollsAndTheKeyBarIsClicked) {
   Desktop d({{"left/file.txt", ManyLines()}});
   d.Keys("Down F3");
