@@ -38,15 +38,15 @@ bool IsTargetPattern(const Westring& spec) {
 }
 
 void BuildTarget(const Westring& source, const Westring& spec, Westring& out) {
-  const wchar_t* const sourceName = LastComponent(source.Text());
-  const bool namesDirectory = EndsInSlash(spec);
-  const Westring path = namesDirectory ? DropRight(spec, 1) : spec;
+  if (!IsTargetPattern(spec)) return BuildLiteralTarget(source, spec, out);
+  const Westring path = EndsInSlash(spec) ? DropRight(spec, 1) : spec;
   const wchar_t* const last = LastComponent(path.Text());
-  if (IsTargetPattern(spec)) {
-    out = Westring(path.Text(), static_cast<int>(last - path.Text())) + NameFromPattern(sourceName, last);
-  } else if (namesDirectory || GoesInto(source, sourceName, spec)) {
-    out = AddTrailingSlash(spec) + sourceName;
-  } else {
-    out = spec;
-  }
+  const Westring directory(path.Text(), static_cast<int>(last - path.Text()));
+  out = directory + NameFromPattern(LastComponent(source.Text()), last);
+}
+
+void BuildLiteralTarget(const Westring& source, const Westring& spec, Westring& out) {
+  const wchar_t* const sourceName = LastComponent(source.Text());
+  const bool isInside = EndsInSlash(spec) || GoesInto(source, sourceName, spec);
+  out = isInside ? AddTrailingSlash(spec) + sourceName : spec;
 }

@@ -7,6 +7,8 @@
 // the rest of a part of the name and "?" for a character. source is the source's
 // path.
 void BuildTarget(const Westring& source, const Westring& spec, Westring& out);
+// The same where "*" and "?" in spec belong to a name.
+void BuildLiteralTarget(const Westring& source, const Westring& spec, Westring& out);
 
 // True where the last component of spec holds "*" or "?".
 bool IsTargetPattern(const Westring& spec);

@@ -53,11 +53,12 @@ int Stamp(const CopyJob& job, const CopyTarget& target, const struct stat& sourc
   return futimens(target.file.Get(), times) == 0 || (!job.isMove && IsUnsupported(errno)) ? 0 : errno;
 }
 
-// A file that was made as it shall be needs no word more. What more than the
-// permissions there is, writing may have taken away again.
+// A file that is as it shall be needs no word more. What there is more than the
+// permissions is always told: writing may have taken it away, or left it from the
+// file that was replaced.
 int SetMode(const CopyJob& job, const CopyTarget& target) {
   const mode_t mode = job.status.st_mode & 07777;
-  if (mode == (target.status.st_mode & 0777)) return 0;
+  if (mode <= 0777 && mode == (target.status.st_mode & 07777)) return 0;
   return fchmod(target.file.Get(), mode) == 0 || IsUnsupported(errno) ? 0 : errno;
 }
 

@@ -19,16 +19,6 @@ bool IsPattern(const CopyDestination& destination) {
   return !destination.isLiteral && IsTargetPattern(destination.path);
 }
 
-Westring TargetInside(const CopyDestination& destination, const Westring& source) {
-  return AddTrailingSlash(destination.path) + LastComponent(source.Text());
-}
-
-Westring BuiltTarget(const CopyDestination& destination, const Westring& source) {
-  Westring target;
-  BuildTarget(source, destination.path, target);
-  return target;
-}
-
 bool TakesMany(const Westring& path) {
   struct stat status;
   if (!Stat(path, status)) return false;
@@ -66,13 +56,15 @@ bool HasRoomForMany(const CopyDestination& destination) {
 }
 
 Westring TargetOfOne(const CopyDestination& destination, const Westring& source) {
-  if (destination.namesDirectory) return TargetInside(destination, source);
-  return destination.isLiteral ? destination.path : BuiltTarget(destination, source);
+  if (destination.namesDirectory) return AddTrailingSlash(destination.path) + LastComponent(source.Text());
+  return TargetOfTagged(destination, source);
 }
 
 Westring TargetOfTagged(const CopyDestination& destination, const Westring& source) {
-  const bool isOfferedDirectory = destination.isLiteral && destination.namesDirectory;
-  return isOfferedDirectory ? TargetInside(destination, source) : BuiltTarget(destination, source);
+  const auto build = destination.isLiteral ? BuildLiteralTarget : BuildTarget;
+  Westring target;
+  build(source, destination.path, target);
+  return target;
 }
 
 bool AreOnOneDevice(const Westring& a, const Westring& b) {

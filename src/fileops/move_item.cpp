@@ -80,7 +80,6 @@ class ItemMove {
   bool Merges(int& code) {
     bool keptSome = false;
     code = IsInsideItself() ? EINVAL : MoveContents(keptSome);  // as a rename says it
-    if (code < 0) return false;
     if (code != 0) return RetriesAfter(item, code);
     if (keptSome) {
       code = kSkipped;  // the user knows of what is left

@@ -308,6 +308,16 @@ TEST(CopyDialog, ADestinationLeftAsItWasOfferedIsTakenForWhatItIs) {
   }
 }
 
+TEST(CopyDialog, ADirectoryOfTheSameListLeftAsItWasOfferedIsNoPatternForMany) {
+  Session s({{"left/a.txt", "a"}, {"left/b.txt", "b"}, {"left/d*/", ""}});
+  TagNames(s, {"a.txt", "b.txt"});
+  GoTo(s, "d*");
+  s.Keys("Ctrl-P F5 Enter");
+  EXPECT_EQ(s.Content("left/d*/a.txt"), "a");
+  EXPECT_EQ(s.Content("left/d*/b.txt"), "b");
+  s.Keys("Ctrl-P");
+}
+
 TEST(CopyDialog, ADirectoryLeftAsItWasOfferedIsNoPatternForMany) {
   Session s({{"left/a.txt", "a"}, {"left/b.txt", "b"}, {"right/*$NO_SUCH_NAME.bak/", ""}});
   s.Keys("Tab Down Enter Tab");

@@ -325,6 +325,15 @@ TEST_F(ItemFaults, ACancelDuringARenameEndsTheCommandBehindIt) {
   EXPECT_EQ(own.Content("target"), "one");
 }
 
+// The name that moved has, but not the directory around it.
+TEST_F(ItemFaults, ACancelDuringAMergeDoesNotTellThatTheDirectoryHasMoved) {
+  own.Make({{"source/a", "one"}, {"target/", ""}});
+  Fault fault(kCallRename, {.path = own.Path("source/a"), .before = RequestBreak});
+  EXPECT_EQ(Move(), kStopCommand);
+  EXPECT_EQ(own.Content("target/a"), "one");
+  EXPECT_TRUE(own.Exists("source"));
+}
+
 TEST_F(ItemFaults, ACancelThatComesTooLateForAnItemIsForThoseThatFollow) {
   own.Write("source", "one");
   BreakScope outer;

@@ -111,6 +111,18 @@ TEST_F(CopyFileTest, ForceReplacesContentsAndMode) {
   EXPECT_EQ(Mode("target"), 0644u);
 }
 
+// Who replaces somebody's program does not run as him.
+TEST_F(CopyFileTest, ForceLeavesNoSpecialBitOfTheReplacedFile) {
+  files.Write("source", "new");
+  files.Write("target", "old");
+  for (const mode_t special : {S_ISUID, S_ISGID, S_ISVTX}) {
+    chmod(files.Path("target").c_str(), special | 0644);
+    ASSERT_EQ(Mode("target"), special | 0644u);
+    EXPECT_EQ(Replace(), 0);
+    EXPECT_EQ(Mode("target"), 0644u);
+  }
+}
+
 TEST_F(CopyFileTest, AFileIsNeverCopiedOntoItself) {
   files.Write("source", "mine");
   files.MakeDirectory("sub");
