@@ -134,15 +134,17 @@ struct Work {
   const char* reference;  // of the shell; null for none
   double limit;
   int rounds;
+  Typical typical;
 };
 // Where a machine gets its memory from its host as it needs it, gigabytes take
-// now one time and now thrice that, which only many rounds even out.
+// now one time and now five times that, with nothing in between. The least time is
+// that of the copying.
 const Work kWorks[] = {
-    {"copy of one 2 GB file", "big", false, false, true, kCopyCommand, "cp", 1.15, 11},
-    {"copy of 50000 files of 1 to 16 KB", "tree", false, false, true, kCopyCommand, "cp -r", 1.3, 5},
-    {"move of them to another file system", "tree", true, true, true, kMoveCommand, "mv", 1.3, 5},
-    {"delete of them", "tree", true, false, false, kDeleteCommand, "rm -rf", 1.5, 5},
-    {"count of their sizes", "tree", false, false, false, kCountCommand, nullptr, 0, 0},
+    {"copy of one 2 GB file", "big", false, false, true, kCopyCommand, "cp", 1.15, 11, Least},
+    {"copy of 50000 files of 1 to 16 KB", "tree", false, false, true, kCopyCommand, "cp -r", 1.3, 5, Median},
+    {"move of them to another file system", "tree", true, true, true, kMoveCommand, "mv", 1.3, 5, Median},
+    {"delete of them", "tree", true, false, false, kDeleteCommand, "rm -rf", 1.5, 5, Median},
+    {"count of their sizes", "tree", false, false, false, kCountCommand, nullptr, 0, 0, Median},
 };
 
 class Bench {
@@ -160,7 +162,8 @@ class Bench {
     double usual = 0;
     if (work.reference) {
       rows.push_back(CompareTimes(
-          work.what, work.rounds, work.limit, [&] { return OurTime(); }, [&] { return ReferenceTime(); }));
+          work.what, work.rounds, work.limit, [&] { return OurTime(); }, [&] { return ReferenceTime(); },
+          work.typical));
       usual = rows.back().ours / 1e3;
     } else {
       usual = OurTime();

@@ -31,14 +31,18 @@ double Median(std::vector<double> values) {
   return *middle;
 }
 
+double Least(std::vector<double> values) {
+  return values.empty() ? std::nan("") : *std::min_element(values.begin(), values.end());
+}
+
 BenchRow CompareTimes(const std::string& what, int rounds, double limit, const std::function<double()>& ours,
-                      const std::function<double()>& reference) {
+                      const std::function<double()>& reference, Typical typical) {
   std::vector<double> oursTimes, referenceTimes;
   for (int i = 0; i < rounds; ++i) {
     referenceTimes.push_back(reference());
     oursTimes.push_back(ours());
   }
-  return {what, "ms", Median(oursTimes) * 1e3, Median(referenceTimes) * 1e3, limit};
+  return {what, "ms", typical(oursTimes) * 1e3, typical(referenceTimes) * 1e3, limit};
 }
 
 int PrintRows(const std::vector<BenchRow>& rows) {

@@ -20,11 +20,15 @@ struct BenchRow {
 
 double Seconds(const std::function<void()>& work);  // that work takes
 double Median(std::vector<double> values);          // NaN of none
+double Least(std::vector<double> values);           // NaN of none
 
-// A row of the medians of times in seconds. The two take turns, so that both
-// see the same machine.
+// What stands for many measurements of one thing.
+using Typical = double (*)(std::vector<double> values);
+
+// A row of typical times in seconds. The two take turns, so that both see the same
+// machine.
 BenchRow CompareTimes(const std::string& what, int rounds, double limit, const std::function<double()>& ours,
-                      const std::function<double()>& reference);
+                      const std::function<double()>& reference, Typical typical = Median);
 
 // One line for each row, its fields divided by tabs: what, ours, unit,
 // reference, ratio, limit, and "over" where it is. Fields without a value are
