@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cwchar>
 
-#include "config/values/options.h"
 #include "console/input.h"
 #include "fileops/copy_destination.h"
 #include "fileops/copy_dialog.h"

@@ -54,7 +54,7 @@ int CopyName(CopyJob& job, const DirectoryNames& names, const char* name, Descri
   if (!names.Look(name, status)) return 0;
   Westring text;
   if (!DecodeName(name, text)) return RefuseName(job.operation, names, name, JoinPath(job.sourcePath, text));
-  if (IsDescriptionsName(text)) return 0;  // its lines go with their files
+  if (IsDescriptionsName(name)) return 0;  // its lines go with their files
   const Westring sourcePath = JoinPath(job.sourcePath, text);
   const bool lowers = job.operation.caseFilterOn && !names.LooksLikeDirectory(name);
   const Westring targetPath = JoinPath(job.targetPath, lowers ? Lower(text) : text);
@@ -77,7 +77,7 @@ int CopyNames(CopyJob& job, DirectoryNames& names) {
 
 bool IsDescriptionsFile(const DirectoryNames& names, const char* name) {
   struct stat status;
-  return strcasecmp(name, "descript.ion") == 0 && names.Look(name, status) && S_ISREG(status.st_mode);
+  return IsDescriptionsName(name) && names.Look(name, status) && S_ISREG(status.st_mode);
 }
 
 // What came into the directory since its names were read has not been copied, nor

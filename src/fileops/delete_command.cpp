@@ -168,10 +168,8 @@ bool Look(FileOperation& operation, const Westring& path, entry*& found) {
 void DeleteNamed(FileOperation& operation, const TPanel& panel, const Westring& path) {
   entry* found = nullptr;
   if (!Look(operation, path, found)) return;
-  const bool isDirectory = found->IsRealDirectory();
-  const bool confirmed = ConfirmOne(operation, panel, path, *found);
-  FreeEntry(found);
-  if (confirmed) DeletePath(operation, path, isDirectory);
+  const OwnedEntry object(found);
+  if (ConfirmOne(operation, panel, path, *object)) DeletePath(operation, path, object->IsRealDirectory());
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 #include "fileops/deletion_window.h"
 #include "fileops/descriptions.h"
 #include "fileops/file_error.h"
-#include "panels/panel_path.h"
 
 namespace {
 
@@ -66,7 +65,7 @@ class FileDeletion {
 
   // The descriptions' file goes with its last line, and so with another file.
   bool IsGoneAnyway(int code) const {
-    if (code == ENOENT && IsDescriptionsName(LastComponent(object.Path().Text()))) return true;
+    if (code == ENOENT && IsDescriptionsName(object.LastName())) return true;
     return mode == kDeleteAnyway && (code == ENOENT || code == ENOTDIR);
   }
 

@@ -125,7 +125,7 @@ class TreeDeletion {
     if (IsDirectory(object, found.type)) return Clear(object);
     if (!takesAll && !Matches(folder, object)) return 0;
     const int result = DeleteFileObject(operation, object, kDeleteBatch);
-    if (folder.hasDescriptions && IsDescriptionsName(Westring(object.Name()))) folder.LookForDescriptions();
+    if (folder.hasDescriptions && IsDescriptionsName(object.Name())) folder.LookForDescriptions();
     return result;
   }
 
@@ -149,9 +149,7 @@ class TreeDeletion {
   bool Matches(const DoomedFolder& folder, const DoomedObject& object) const {
     entry* found = nullptr;
     if (StatEntry(folder.Object().Path(), Westring(object.Name()).Text(), found) != 0) return false;
-    const bool matches = MatchEntry(mask.Text(), *found) > 0;
-    FreeEntry(found);
-    return matches;
+    return MatchEntry(mask.Text(), *OwnedEntry(found)) > 0;
   }
 
   FileOperation& operation;

@@ -15,7 +15,7 @@
 
 const wchar_t* const kDescriptionsName = L"descript.ion";
 
-bool IsDescriptionsName(const Westring& name) { return name == kDescriptionsName; }
+bool IsDescriptionsName(const char* name) { return strcasecmp(name, "descript.ion") == 0; }
 
 namespace {
 

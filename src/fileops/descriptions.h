@@ -9,7 +9,8 @@
 #include "foundation/strings.h"
 
 extern const wchar_t* const kDescriptionsName;
-bool IsDescriptionsName(const Westring& name);  // in any case of letters
+// A name as the system has it, in any case of its letters.
+bool IsDescriptionsName(const char* name);
 
 // The description file of one directory. Most directories have none, which costs
 // one look and nothing per file. What others write to it meanwhile is seen.

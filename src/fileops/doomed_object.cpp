@@ -116,6 +116,11 @@ Westring DoomedObject::Path() const {
   return Westring(path.c_str());
 }
 
+const char* DoomedObject::LastName() const {
+  const char* const slash = strrchr(name, '/');
+  return slash ? slash + 1 : name;
+}
+
 int DoomedObject::Directory() const { return folder ? folder->Descriptor() : AT_FDCWD; }
 
 int DoomedObject::OpenDirectory(int& fd) const {

@@ -74,6 +74,7 @@ class DoomedObject {
   // For the system's calls that count a name from an open directory.
   int Directory() const;
   const char* Name() const { return name; }
+  const char* LastName() const;  // without the path that leads to it
 
   // Each 0 or errno.
   int OpenDirectory(int& fd) const;  // follows no link

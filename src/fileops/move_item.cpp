@@ -102,7 +102,7 @@ class ItemMove {
     const bool isHeld = DecodeName(name, text);
     const Westring path = JoinPath(item.source, text);
     if (!isHeld) return RefuseName(item.operation, names, name, path);
-    if (IsDescriptionsName(text)) return 0;  // its lines go with their files
+    if (IsDescriptionsName(name)) return 0;  // its lines go with their files
     return MoveItem(item.operation, path, JoinPath(item.target, text), 1, 1, &descriptions);
   }
 

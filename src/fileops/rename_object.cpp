@@ -26,12 +26,12 @@ int RenameOverDirectory(const char* source, const char* target) {
 // The same for all that is no directory. What somebody has written to the place
 // meanwhile stays his.
 int RenameOverFile(const char* source, const char* target) {
-  Descriptor placeholder;
+  Descriptor reserved;
   constexpr int kNew = O_CREAT | O_EXCL | O_WRONLY;
-  if (const int code = placeholder.Open(target, kNew, S_IRUSR | S_IWUSR)) return code;
+  if (const int code = reserved.Open(target, kNew, S_IRUSR | S_IWUSR)) return code;
   struct stat made, left;
-  const bool isKnown = fstat(placeholder.Get(), &made) == 0;
-  placeholder.Close();
+  const bool isKnown = fstat(reserved.Get(), &made) == 0;
+  reserved.Close();
   if (rename(source, target) == 0) return 0;
   const int error = errno;
   const bool isOurs = isKnown && lstat(target, &left) == 0 && IsSameObject(made, left) && left.st_size == 0;

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cwchar>
-#include <memory>
 
 #include "foundation/wildcards.h"
 #include "panels/criterion.h"

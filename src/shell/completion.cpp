@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cwchar>
-#include <memory>
 #include <vector>
 
 #include "config/values/colours.h"

@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <climits>
-#include <memory>
 
 #include "foundation/environment.h"
 #include "foundation/paths.h"

@@ -192,21 +192,15 @@ TEST_F(DeleteTreeTest, ANameThatReadsAsAPathElsewhereLeadsNowhere) {
   EXPECT_EQ(place.Content("victim"), "kept");
 }
 
-TEST_F(DeleteTreeTest, TwoHundredLevelsGo) {
+// Also more than may be open at once.
+TEST_F(DeleteTreeTest, HundredsOfLevelsGo) {
   Options::Confirmations = 4;
-  place.Make({{"dir/", ""}});
-  DeepTree(place.Path("dir"), "l", 200);
-  EXPECT_EQ(DeleteTreeAt("dir"), 1);
-  EXPECT_FALSE(Exists("dir"));
-}
-
-// More than may be open at once.
-TEST_F(DeleteTreeTest, LevelsBeyondWhatMayBeOpenGo) {
-  Options::Confirmations = 4;
-  place.Make({{"dir/", ""}});
-  DeepTree(place.Path("dir"), "l", 1200);
-  EXPECT_EQ(DeleteTreeAt("dir"), 1);
-  EXPECT_FALSE(Exists("dir"));
+  for (const int levels : {200, 1200}) {
+    place.Make({{"dir/", ""}});
+    DeepTree(place.Path("dir"), "l", levels);
+    EXPECT_EQ(DeleteTreeAt("dir"), 1) << levels;
+    EXPECT_FALSE(Exists("dir")) << levels;
+  }
 }
 
 TEST_F(DeleteTreeTest, OnTheWayUpNothingIsAskedForTwice) {

@@ -34,9 +34,9 @@ class DescriptionsTest : public CopyFixture {
 };
 
 TEST_F(DescriptionsTest, TheFilesNameIsKnownInAnyCase) {
-  EXPECT_TRUE(IsDescriptionsName(L"descript.ion"));
-  EXPECT_TRUE(IsDescriptionsName(L"DESCRIPT.ION"));
-  EXPECT_FALSE(IsDescriptionsName(L"descript.ions"));
+  EXPECT_TRUE(IsDescriptionsName("descript.ion"));
+  EXPECT_TRUE(IsDescriptionsName("DESCRIPT.ION"));
+  EXPECT_FALSE(IsDescriptionsName("descript.ions"));
 }
 
 TEST_F(DescriptionsTest, ALineIsFoundByItsWholeName) {
