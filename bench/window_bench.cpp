@@ -245,14 +245,15 @@ void MeasureKeys(Watcher& screen, std::vector<BenchRow>& rows) {
 
 // ---- the viewer --------------------------------------------------------------
 
-// Its last row of text, while it scrolls.
+// The beginning of its last row of text, while it scrolls.
 class ViewerWatch {
  public:
   explicit ViewerWatch(Watcher& watched) : screen(watched) {
     screen.Await("the viewer", screen.Whole(), [&] { return ShowsViewer(); });
     const Watcher::Frame frame = screen.FindWindow();
     const int cellHeight = frame.area.height / kRows;
-    lastRow = {frame.area.x, frame.area.y + (kRows - 2) * cellHeight, frame.area.width / 2, cellHeight};
+    lastRow = {frame.area.x, frame.area.y + (kRows - 2) * cellHeight, kShown * frame.area.width / kColumns,
+               cellHeight};
     screen.GiveKeyboardTo(frame.window);
     screen.AwaitRest(frame.area, 100);
   }
@@ -270,6 +271,8 @@ class ViewerWatch {
   }
 
  private:
+  static constexpr int kShown = 12;  // columns, with the line's number
+
   bool ShowsViewer() const {
     const Area window = screen.FindWindow().area;
     if (window.width == 0) return false;
@@ -285,7 +288,7 @@ void MeasureViewer(Watcher& screen, std::vector<BenchRow>& rows) {
   constexpr int kLines = 10'000;
   const Place place(0, "Lines=50\r\nColumns=132\r\n");
   std::string text;
-  for (int i = 0; i < kLines; ++i) text += "line " + std::to_string(i) + " of a text that is read\n";
+  for (int i = 0; i < kLines; ++i) text += std::to_string(i) + " is the number of this line of text\n";
   place.Write("files/text.txt", text);
   for (const Pace& pace : kPaces) {
     std::vector<double> scroll, row;

@@ -7,9 +7,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <climits>
 #include <cstdio>
-#include <ctime>
+#include <thread>
 
 namespace {
 
@@ -20,7 +21,7 @@ constexpr int kMostLinks = 40;  // as the system itself follows
 
 // Another process needs milliseconds for its save; five seconds are patience.
 constexpr int kLockAttempts = 100;
-constexpr timespec kLockPause{0, 50'000'000};
+constexpr auto kLockPause = std::chrono::milliseconds(50);
 
 int NameStart(const Estring& path) { return RFind(path, '/') + 1; }
 
@@ -86,7 +87,7 @@ int ReplacementFile::OpenLocked() {
       code = file.Open(scratch.Text(), kOpenWrite | kOpenCreate | kOpenAppend);
     if (code != 0) return code;
     if (flock(file.Descriptor(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-      nanosleep(&kLockPause, nullptr);
+      std::this_thread::sleep_for(kLockPause);
     } else if (IsOpenAt(file.Descriptor(), scratch.Text())) {
       return 0;
     }

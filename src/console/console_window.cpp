@@ -115,7 +115,7 @@ void CConsoleWindow::Layout(int columns, int rows, int points) {
   grid.Reset(size.columns, size.rows);
   selection.Clear();
   const int width = size.columns * painter.CellWidth(), height = size.rows * painter.CellHeight();
-  area.SetPicture(width, height);
+  area.SetPicture(width, size.rows, painter.CellHeight());
   area.queue_draw();  // the window may keep its size and still show the old screen
   resize(width, height);
   check_resize();  // now: whoever sees what is done next sees the new size too
@@ -126,20 +126,22 @@ void CConsoleWindow::Layout(int columns, int rows, int points) {
 // The cells outside of the block are drawn for what reaches into it from them.
 void CConsoleWindow::DrawCells(const CellRect& block) {
   cairo_t* cairo = area.Picture();
-  cairo_save(cairo);
-  cairo_rectangle(cairo, block.left * painter.CellWidth(), block.top * painter.CellHeight(),
-                  (block.right - block.left + 1) * painter.CellWidth(),
-                  (block.bottom - block.top + 1) * painter.CellHeight());
-  cairo_clip(cairo);
-  for (int y = block.top; y <= block.bottom; ++y) DrawCellRow(cairo, WithNeighbours(block), y);
-  cairo_restore(cairo);
+  const int left = block.left * painter.CellWidth(),
+            width = (block.right - block.left + 1) * painter.CellWidth();
+  const CellRect drawn = WithNeighbours(block);
+  for (int y = block.top; y <= block.bottom; ++y) {
+    cairo_save(cairo);
+    cairo_rectangle(cairo, left, area.TopOf(y), width, painter.CellHeight());
+    cairo_clip(cairo);
+    DrawCellRow(cairo, drawn, y);
+    cairo_restore(cairo);
+  }
   const Place at = cursor;
   if (block.Contains(at.x, at.y) && cursorSize > 0 && blink.IsCursorPhase()) {
-    painter.DrawCursor(cairo, at.x * painter.CellWidth(), at.y * painter.CellHeight(), cursorSize,
+    painter.DrawCursor(cairo, at.x * painter.CellWidth(), area.TopOf(at.y), cursorSize,
                        grid.At(at.x, at.y).attribute);
   }
-  area.Show(block.left * painter.CellWidth(), block.top * painter.CellHeight(),
-            (block.right - block.left + 1) * painter.CellWidth(),
+  area.Show(left, block.top * painter.CellHeight(), width,
             (block.bottom - block.top + 1) * painter.CellHeight());
 }
 
@@ -152,7 +154,7 @@ void CConsoleWindow::DrawCellRow(cairo_t* cairo, const CellRect& block, int y) {
     attribute = SwapNibbles(attribute);
   }
   painter.DrawRow(cairo, rowInWork.data(), static_cast<int>(rowInWork.size()),
-                  block.left * painter.CellWidth(), y * painter.CellHeight());
+                  block.left * painter.CellWidth(), area.TopOf(y));
 }
 
 bool CConsoleWindow::IsCursorIn(const CellRect& block) const {
@@ -231,13 +233,13 @@ void CConsoleWindow::Scroll(const CellRect& block, int lines, uint8_t attribute)
 
 // The rows that stay in a block, on the picture and in the window.
 void CConsoleWindow::MovePicture(const CellRect& block, int lines) {
-  const CellRect source = ScrollSource(block, lines), target = ScrollTarget(block, lines);
-  if (source.IsEmpty()) return;
-  const int width = painter.CellWidth(), height = painter.CellHeight();
-  area.CopyPicture(source.left * width, source.top * height, target.left * width, target.top * height,
-                   (source.right - source.left + 1) * width, (source.bottom - source.top + 1) * height);
-  area.Show(target.left * width, target.top * height, (target.right - target.left + 1) * width,
-            (target.bottom - target.top + 1) * height);
+  const CellRect target = ScrollTarget(block, lines);
+  if (target.IsEmpty()) return;
+  const int left = block.left * painter.CellWidth(),
+            width = (block.right - block.left + 1) * painter.CellWidth();
+  area.ScrollPicture(left, width, block.top, block.bottom, lines);
+  area.Show(left, target.top * painter.CellHeight(), width,
+            (target.bottom - target.top + 1) * painter.CellHeight());
 }
 
 // What stays where it is on the screen, though its picture went along.

@@ -16,6 +16,7 @@
 #include "console/cell_painter.h"
 #include "console/event_queue.h"
 #include "console/key_codes.h"
+#include "console/picture_rows.h"
 #include "console/screen_size.h"
 #include "console/selection.h"
 #include "console/update_batch.h"
@@ -23,17 +24,24 @@
 struct CairoRelease {
   void operator()(cairo_t* cairo) const { cairo_destroy(cairo); }
 };
+struct RegionRelease {
+  void operator()(GdkRegion* region) const { gdk_region_destroy(region); }
+};
 
 // Shows the picture of the grid, which is drawn off the screen.
 class CConsoleDrawingArea : public Gtk::DrawingArea {
  public:
   CConsoleDrawingArea();
+  ~CConsoleDrawingArea() override;
 
-  // Makes the picture forget all and take a new size in pixels.
-  void SetPicture(int width, int height);
+  // All in pixels, but for rows. Makes the picture forget all and take a new size.
+  void SetPicture(int width, int rows, int rowHeight);
   // The picture to draw on; made black at its first use.
   cairo_t* Picture();
-  void CopyPicture(int fromX, int fromY, int toX, int toY, int width, int height);
+  // Where a row of the screen is in the picture.
+  int TopOf(int row) const { return rows.At(row) * rowHeight; }
+  // Moves what the rows top to bottom show, up by lines or down where it is negative.
+  void ScrollPicture(int x, int width, int top, int bottom, int lines);
   // Brings a part of the picture to the window: when the GUI thread comes to it,
   // or in a hurry at once, with all that was drawn on its way at the end.
   void Show(int x, int y, int width, int height);
@@ -42,9 +50,15 @@ class CConsoleDrawingArea : public Gtk::DrawingArea {
 
  private:
   void CopyToWindow(int x, int y, int width, int height);
+  void CopyToWindow(const GdkRegion& region);
+  static gboolean ShowOwed(gpointer area);
   bool on_expose_event(GdkEventExpose* event) override;
 
   bool isHurried = false;
+  std::unique_ptr<GdkRegion, RegionRelease> owed{gdk_region_new()};  // to the window
+  guint showOwed = 0;                                                // the source that brings it, or 0
+  PictureRows rows;
+  int rowHeight = 1;
   int pictureWidth = 0, pictureHeight = 0;
   std::unique_ptr<GdkPixmap, ObjectRelease> picture;
   std::unique_ptr<GdkGC, ObjectRelease> copier;

@@ -1,4 +1,6 @@
 // The picture of the grid and its way to the window.
+#include <algorithm>
+
 #include "console/console_window.h"
 
 namespace {
@@ -15,13 +17,19 @@ CConsoleDrawingArea::CConsoleDrawingArea() {
   modify_bg(Gtk::STATE_NORMAL, Gdk::Color("black"));
 }
 
-void CConsoleDrawingArea::SetPicture(int width, int height) {
+CConsoleDrawingArea::~CConsoleDrawingArea() {
+  if (showOwed != 0) g_source_remove(showOwed);
+}
+
+void CConsoleDrawingArea::SetPicture(int width, int rowCount, int heightOfRow) {
   cairo.reset();
   copier.reset();
   picture.reset();
+  rows.Reset(rowCount);
+  rowHeight = heightOfRow;
   pictureWidth = width;
-  pictureHeight = height;
-  set_size_request(width, height);
+  pictureHeight = rowCount * rowHeight;
+  set_size_request(pictureWidth, pictureHeight);
 }
 
 cairo_t* CConsoleDrawingArea::Picture() {
@@ -36,19 +44,46 @@ cairo_t* CConsoleDrawingArea::Picture() {
   return cairo.get();
 }
 
-void CConsoleDrawingArea::CopyPicture(int fromX, int fromY, int toX, int toY, int width, int height) {
+// Rows that go up are taken from the top on, others from the bottom, so that none is
+// overwritten before it is copied.
+void CConsoleDrawingArea::ScrollPicture(int x, int width, int top, int bottom, int lines) {
+  if (width == pictureWidth) {
+    rows.Scroll(top, bottom, lines);
+    return;
+  }
   cairo_surface_t* surface = cairo_get_target(Picture());
-  GdkDrawable* drawable = GDK_DRAWABLE(picture.get());
   cairo_surface_flush(surface);
-  gdk_draw_drawable(drawable, copier.get(), drawable, fromX, fromY, toX, toY, width, height);
+  GdkDrawable* drawable = GDK_DRAWABLE(picture.get());
+  const int step = lines > 0 ? 1 : -1;
+  const int lastSource = step > 0 ? bottom : top, lastTarget = lastSource - lines;
+  for (int row = step > 0 ? top : bottom, count = 0; step * (lastTarget - row) >= 0; row += step * count) {
+    count = std::min(rows.Run(row, lastTarget, step), rows.Run(row + lines, lastSource, step));
+    const int highest = step > 0 ? row : row - count + 1;
+    gdk_draw_drawable(drawable, copier.get(), drawable, x, TopOf(highest + lines), x, TopOf(highest), width,
+                      count * rowHeight);
+  }
   cairo_surface_mark_dirty(surface);
 }
 
+// The toolkit's own updates would make a picture of the place, copy ours to it, and
+// that to the window; so what is drawn goes past them. It goes when they would, so
+// that what is drawn meanwhile goes along.
 void CConsoleDrawingArea::Show(int x, int y, int width, int height) {
-  if (isHurried)
+  if (isHurried) {
     CopyToWindow(x, y, width, height);
-  else
-    queue_draw_area(x, y, width, height);
+    return;
+  }
+  const GdkRectangle place{x, y, width, height};
+  gdk_region_union_with_rect(owed.get(), &place);
+  if (showOwed == 0) showOwed = gdk_threads_add_idle_full(GDK_PRIORITY_REDRAW, ShowOwed, this, nullptr);
+}
+
+gboolean CConsoleDrawingArea::ShowOwed(gpointer area) {
+  CConsoleDrawingArea& self = *static_cast<CConsoleDrawingArea*>(area);
+  self.showOwed = 0;
+  self.CopyToWindow(*self.owed);
+  self.owed.reset(gdk_region_new());
+  return FALSE;
 }
 
 void CConsoleDrawingArea::BeginHurry() { isHurried = true; }
@@ -62,19 +97,29 @@ void CConsoleDrawingArea::EndHurry() {
 
 void CConsoleDrawingArea::CopyToWindow(int x, int y, int width, int height) {
   cairo_surface_flush(cairo_get_target(Picture()));
-  gdk_draw_drawable(gtk_widget_get_window(GTK_WIDGET(gobj())), copier.get(), GDK_DRAWABLE(picture.get()), x,
-                    y, x, y, width, height);
+  GdkDrawable* const window = gtk_widget_get_window(GTK_WIDGET(gobj()));
+  const int end = std::min(y + height, pictureHeight);
+  for (int bottom = 0; y < end; y = bottom) {
+    const int row = y / rowHeight;
+    bottom = std::min((row + rows.Run(row, (end - 1) / rowHeight)) * rowHeight, end);
+    gdk_draw_drawable(window, copier.get(), GDK_DRAWABLE(picture.get()), x, TopOf(row) + y % rowHeight, x, y,
+                      width, bottom - y);
+  }
 }
 
 // Rectangle by rectangle: a step of the cursor changes a few rows far apart,
 // and what lies between them is most of the window.
-bool CConsoleDrawingArea::on_expose_event(GdkEventExpose* event) {
+void CConsoleDrawingArea::CopyToWindow(const GdkRegion& region) {
   GdkRectangle* places = nullptr;
   gint count = 0;
-  gdk_region_get_rectangles(event->region, &places, &count);
+  gdk_region_get_rectangles(&region, &places, &count);
   for (const GdkRectangle* place = places; place < places + count; ++place) {
     CopyToWindow(place->x, place->y, place->width, place->height);
   }
   g_free(places);
+}
+
+bool CConsoleDrawingArea::on_expose_event(GdkEventExpose* event) {
+  CopyToWindow(*event->region);
   return true;
 }

@@ -1,8 +1,8 @@
 // The mouse in a list: on its rows, and on the rows next to it, where a button
 // held down scrolls.
-#include <time.h>
-
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 #include "config/values/options.h"
 #include "console/input.h"
@@ -14,8 +14,7 @@ namespace {
 void PauseBetweenSteps(int milliseconds) {
   constexpr int kSlice = 10;
   for (; milliseconds > 0 && !KeyPending(); milliseconds -= kSlice) {
-    const timespec pause{0, std::min(milliseconds, kSlice) * 1000000L};
-    nanosleep(&pause, nullptr);
+    std::this_thread::sleep_for(std::chrono::milliseconds(std::min(milliseconds, kSlice)));
   }
 }
 

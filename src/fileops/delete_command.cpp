@@ -7,7 +7,7 @@
 #include "config/values/colours.h"
 #include "config/values/options.h"
 #include "console/input.h"
-#include "dialogs/dialog_history.h"
+#include "dialogs/file_question.h"
 #include "fileops/delete_dialog.h"
 #include "fileops/delete_file.h"
 #include "fileops/file_error.h"
@@ -137,18 +137,6 @@ void DeleteCurrent(FileOperation& operation, const TPanel& panel) {
 
 // ---- the file that the user names --------------------------------------------
 
-constexpr int kNameTop = 6, kNameWidth = 74, kNameHeight = 9;
-constexpr int kNameColumn = 1, kLabelRow = 1, kFieldRow = 3, kButtonRow = 5;
-constexpr int kFieldWidth = 70, kLongestName = 512;
-
-bool AskForName(Westring& name) {
-  Dialog dialog(-1, kNameTop, kNameWidth, kNameTop + kNameHeight - 1, Options::Colours[kColourMessages]);
-  dialog.PrintBytes(kNameColumn, kLabelRow, "Delete the file:");
-  dialog.AddStringField(kNameColumn, kFieldRow, true, &name, kFieldWidth, kLongestName, kNoHistory);
-  dialog.AddOkCancel(-1, kButtonRow, true);
-  return dialog.Run() == static_cast<int>(kEnter) && !name.IsEmpty();
-}
-
 // A panel of information has no names of its own, and the other one's directory.
 Westring OfferedName(const TPanel& panel) {
   const entry* const current = panel.Current();
@@ -199,7 +187,7 @@ void DeleteNamedFile(TPanel& panel) {
   const TPanel& base = panel.IsFiles() ? panel : Panels[panel.Side() ^ 1];
   if (base.archive) return;
   Westring name = OfferedName(panel);
-  if (!AskForName(name)) return;
+  if (!AskForFile("Delete the file:", name) || name.IsEmpty()) return;
   {
     FileOperation operation;
     BreakScope armed;

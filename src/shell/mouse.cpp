@@ -2,9 +2,9 @@
 // button, scrolling at the lists' ends, the wheel, and the function-key bar.
 #include "shell/mouse.h"
 
-#include <time.h>
-
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 #include "config/values/options.h"
 #include "console/console.h"
@@ -102,11 +102,6 @@ void ActInList(Shell& shell) {
   }
 }
 
-void Sleep(int milliseconds) {
-  const timespec pause{milliseconds / 1000, milliseconds % 1000 * 1000000L};
-  nanosleep(&pause, nullptr);
-}
-
 // True if the waiting event ends the scrolling.
 bool EndsScroll(Shell& shell, bool upward, bool tagging) {
   bool timedOut = false;
@@ -127,7 +122,7 @@ void AutoScroll(Shell& shell, TPanel& panel, bool upward, int tag) {
     if (panel.CurrentIndex() == before) break;
     if (tag) Tag(panel, panel.CurrentIndex(), tag);
     DrawCursor(side, true);
-    if (panel.topIndex != top && Options::ScrollDelay > 0) Sleep(Options::ScrollDelay);
+    if (panel.topIndex != top) std::this_thread::sleep_for(std::chrono::milliseconds(Options::ScrollDelay));
     if (KeyPending() && EndsScroll(shell, upward, tag != 0)) break;
   }
   shell.dragIndex = panel.CurrentIndex();

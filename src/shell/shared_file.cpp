@@ -7,7 +7,8 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <ctime>
+#include <chrono>
+#include <thread>
 
 #include "config/replacement_file.h"
 
@@ -15,7 +16,7 @@ namespace {
 
 // An append takes microseconds, a replacement the time of bringing it to the disk.
 constexpr int kLockAttempts = 60;
-constexpr timespec kLockPause{0, 20'000'000};
+constexpr auto kLockPause = std::chrono::milliseconds(20);
 
 constexpr off_t kLargestFile = 256 << 20;
 
@@ -77,7 +78,7 @@ int SharedFile::Open(const Westring& name, int creation) {
     if (locked)
       code = OpenPlain(creation);
     else
-      nanosleep(&kLockPause, nullptr);
+      std::this_thread::sleep_for(kLockPause);
   }
   if (code == 0) code = OpenPlain(creation);  // the file of now, without its lock
   return code != 0 ? code : EBUSY;

@@ -2,10 +2,8 @@
 #include "shell/view_commands.h"
 
 #include "config/values/associations.h"
-#include "config/values/colours.h"
 #include "config/values/options.h"
-#include "dialogs/dialog.h"
-#include "dialogs/dialog_history.h"
+#include "dialogs/file_question.h"
 #include "foundation/paths.h"
 #include "panels/expression.h"
 #include "panels/navigation.h"
@@ -16,18 +14,6 @@
 #include "viewer/view_files.h"
 
 namespace {
-
-constexpr int kTop = 6, kWidth = 74, kHeight = 9;
-constexpr int kColumn = 1, kLabelRow = 1, kFieldRow = 3, kButtonRow = 5;
-constexpr int kFieldWidth = 70, kLongestName = 512;
-
-bool AskForFile(Westring& name) {
-  Dialog dialog(-1, kTop, kWidth, kTop + kHeight - 1, Options::Colours[kColourMessages]);
-  dialog.PrintBytes(kColumn, kLabelRow, "View the file:");
-  dialog.AddStringField(kColumn, kFieldRow, true, &name, kFieldWidth, kLongestName, kNoHistory);
-  dialog.AddOkCancel(-1, kButtonRow, true);
-  return dialog.Run() == static_cast<int>(kEnter);
-}
 
 // The clock would go on over the text.
 void ViewInternally(TPanel& panel) {
@@ -79,7 +65,7 @@ int ViewEntryElsewhere(Shell& shell) {
 
 int ViewNamed(Shell& shell) {
   Westring name(shell.currentEntry ? shell.currentEntry->name : L"");
-  if (!AskForFile(name)) return kRedrawAll;
+  if (!AskForFile("View the file:", name)) return kRedrawAll;
   Westring path;
   if (!NormalisePath(name, ActivePanel().path, path, kLongestPath)) return kRedrawAll;
   if (!Options::Viewer.IsEmpty())

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr unsigned kStepsBetweenBreaks = 1024;
+constexpr unsigned kStepsBetweenBreaks = 64;  // a step may pass over a whole block
 
 constexpr int kEnd = -1;  // of the file, in the direction of reading
 
