@@ -230,6 +230,21 @@ void Desktop::CloseWindow() {
   XSync(display, False);
 }
 
+void Desktop::CoverForAMoment() {
+  XSetWindowAttributes attributes{};
+  attributes.override_redirect = True;
+  attributes.background_pixel = 0xFFFFFF;
+  const Picture covered = TakePicture();
+  const Window cover =
+      XCreateWindow(display, DefaultRootWindow(display), 0, 0, static_cast<unsigned>(covered.width),
+                    static_cast<unsigned>(covered.height), 0, CopyFromParent, InputOutput, CopyFromParent,
+                    CWOverrideRedirect | CWBackPixel, &attributes);
+  XMapRaised(display, cover);
+  XSync(display, False);
+  XDestroyWindow(display, cover);
+  XSync(display, False);
+}
+
 // ---- what is seen ----------------------------------------------------------
 
 int Desktop::Columns() const { return TakePicture().width / cellWidth; }

@@ -44,7 +44,8 @@ class Desktop {
   void Press(unsigned button);               // X numbers: 1 left, 2 middle, 3 right, 4 and 5 the wheel
   void Release(unsigned button);
   void Click(unsigned button, int column, int row);
-  void CloseWindow();  // what a window manager's close button sends
+  void CloseWindow();      // what a window manager's close button sends
+  void CoverForAMoment();  // with a white window, which leaves black where it was
 
   // ---- what is seen
 
