@@ -12,7 +12,7 @@ gaaaaaosssg gggg
 )"));
 }
 
-// Inside of a string or a comment of one line the end tag counts for nothing.
+// Inside of a string the end tag counts for nothing.
 TEST_F(Languages, HtmlScriptsAreCodeUpToTheirEndTag) {
   EXPECT_TRUE(Coloured("a.htm", R"(
 <script type="module">let s = "it's <b>"; // c
@@ -23,6 +23,17 @@ x = "</script>"
   o sssssssssss
 </script><b>if</b>
 gggggggggggg  gggg
+)"));
+}
+
+TEST_F(Languages, HtmlScriptsEndInLineComments) {
+  EXPECT_TRUE(Coloured("a.html", R"(
+<script>//<![CDATA[
+ggggggggccccccccccc
+let a; //]]></SCRIPT><b>let</b> don't &amp;
+kkk  o cccccgggggggggggg   gggg       eeeee
+<!-- let --> <script>let b</script> let
+cccccccccccc ggggggggkkk  ggggggggg
 )"));
 }
 

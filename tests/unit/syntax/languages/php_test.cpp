@@ -23,6 +23,15 @@ pp vvoo ovvovvosssooossso vvvvv pp
 )"));
 }
 
+TEST_F(Languages, PhpLineCommentsEndWithTheCode) {
+  EXPECT_TRUE(Coloured("a.php", R"(
+<?php if ($a): // c ?><b>don't if</b> &lt;
+ppppp kk ovvoo cccccppggg        gggg eeee
+<!-- if --> <?php return $b # c ?> $no <?= "x" ?> if
+ccccccccccc ppppp kkkkkk vv ccccpp     ppp sss pp
+)"));
+}
+
 TEST_F(Languages, PhpInterpolationIsInDoubleQuotesOnly) {
   EXPECT_TRUE(Coloured("a.php", R"(
 <?php
