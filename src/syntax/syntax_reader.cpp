@@ -49,9 +49,9 @@ void DropByteOrderMark(std::string& line) {
 }
 
 // Where a line as long as may be was taken; its end may be the last byte of that.
-void SkipRestOfLine(StdFile& file) {
+void SkipRestOfLine(StdFile& file, int64_t mostBytes) {
   char c = 0;
-  for (file.SeekRelative(-1); c != '\n' && file.Read(&c, 1) == 0;) continue;
+  for (file.SeekRelative(-1); c != '\n' && mostBytes >= 0 && file.Read(&c, 1) == 0; --mostBytes) continue;
 }
 
 }  // namespace
@@ -112,7 +112,7 @@ bool SyntaxReader::ReadPhysicalLine(std::string& line) {
   char buffer[kLongestPhysicalLine + 1];
   const bool anything = bytesRead < kMostBytes && file.ReadLine(buffer, sizeof buffer) == 0;
   line = anything ? buffer : "";
-  if (file.Tell() - start == kLongestPhysicalLine) SkipRestOfLine(file);
+  if (file.Tell() - start == kLongestPhysicalLine) SkipRestOfLine(file, kMostBytes - bytesRead);
   bytesRead += file.Tell() - start;
   if (start == 0) DropByteOrderMark(line);
   return anything;

@@ -1,5 +1,6 @@
 // Sections, lines and included files of a syntax file.
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -383,6 +384,15 @@ TEST_F(DefinitionLoad, AHugeFileEndsWhereTheLimitIs) {
   while (huge.size() <= size_t{SyntaxReader::kMostBytes}) huge += std::string(1000, 'x') + "\n";
   scratch.Write("huge", huge + "linecomment:red:2\n");
   EXPECT_TRUE(Load("[C:*.c]\n!include huge\nlinecomment:red:3\n"));
+  EXPECT_EQ(complaints, std::vector{Complaint("File too large", "huge")});
+  EXPECT_EQ(Comments(), "1 ");
+}
+
+// Reading all of it took a quarter of an hour at the least.
+TEST_F(DefinitionLoad, AHugeLineEndsWhereTheLimitIs) {
+  scratch.Write("huge", "linecomment:red:1\n" + std::string(SyntaxReader::kLongestPhysicalLine, 'x'));
+  ASSERT_EQ(truncate(scratch.Path("huge").c_str(), off_t{1} << 40), 0);
+  EXPECT_TRUE(Load("[C:*.c]\n!include huge\nlinecomment:red:2\n"));
   EXPECT_EQ(complaints, std::vector{Complaint("File too large", "huge")});
   EXPECT_EQ(Comments(), "1 ");
 }
