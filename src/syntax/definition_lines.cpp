@@ -13,7 +13,7 @@ constexpr int kLongestContexts = 4000;
 
 struct DefinitionLine {
   Estring key, contexts, options, colour, rest;
-  bool hasContexts = false, hasRest = false;
+  bool hasContexts = false;
 
   bool Has(char option) const { return Find(options, option) >= 0; }
   bool CaseSensitive() const { return !Has('i'); }
@@ -43,7 +43,7 @@ void CutContexts(DefinitionLine& line) {
 bool Split(const char* text, DefinitionLine& line) {
   line.key = text;
   if (!CutAt(line.key, ':', line.colour)) return false;
-  line.hasRest = CutAt(line.colour, ':', line.rest);
+  CutAt(line.colour, ':', line.rest);
   CutAt(line.key, '/', line.options);
   CutContexts(line);
   return Length(line.contexts) <= kLongestContexts;
