@@ -22,6 +22,15 @@ void CEventQueue::Put(TEvent* event) {
   arrived.Set();
 }
 
+void CEventQueue::Put(const std::vector<TEvent>& events) {
+  {
+    MutexLock lock(mutex);
+    drained.Reset();
+    for (const TEvent& event : events) Append(new TEvent(event));
+  }
+  arrived.Set();
+}
+
 TEvent* CEventQueue::Get(uint32_t timeoutMs) {
   if (TEvent* event = Take()) return event;
   if (timeoutMs == 0) return nullptr;

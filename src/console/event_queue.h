@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "foundation/collections.h"
 #include "foundation/sync.h"
@@ -41,8 +42,11 @@ class CEventQueue : public TObjectStore<TEvent> {
   bool IsRestOfClick(const TEvent& event);
   bool IsPending();
 
+  // For whoever drives the program.
+  // All of them are there before the first one is taken.
+  void Put(const std::vector<TEvent>& events);
   // True once the application waits here and nothing is queued: all input has
-  // been acted on. False after timeoutMs. For whoever drives the program.
+  // been acted on. False after timeoutMs.
   bool WaitUntilDrained(uint32_t timeoutMs);
 
  private:

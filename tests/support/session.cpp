@@ -209,7 +209,7 @@ void Session::Send(const std::vector<TEvent>& events) {
   if (progress.ended || events.empty()) return;
   // Under the hook's lock: a rest counted from here on comes after these events.
   const uint64_t before = progress.rests;
-  for (const TEvent& event : events) Console->Events().Put(new TEvent(event));
+  Console->Events().Put(events);
   const auto deadline = Clock::now() + kPatience;
   const auto rested = [&] { return progress.ended || progress.rests != before; };
   while (!progress.changed.wait_for(lock, kHookPause, rested)) {

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <thread>
+#include <vector>
 
 #include "console/key_codes.h"
 
@@ -27,6 +28,23 @@ TEST(EventQueue, GivesEventsInTheirOrder) {
   EXPECT_EQ(TakeCode(queue), 'a');
   EXPECT_EQ(TakeCode(queue), 'b');
   EXPECT_EQ(TakeCode(queue), 'c');
+}
+
+TEST(EventQueue, WhoTakesTheFirstOfSeveralFindsTheOthersWaiting) {
+  CEventQueue queue;
+  int first = 0;
+  bool foundOthers = false;
+  std::thread taker([&] {
+    first = std::unique_ptr<TEvent>(queue.Get(kForever))->code;
+    foundOthers = queue.TakeEscape();
+  });
+  while (!queue.WaitUntilDrained(kForever)) {
+  }
+  queue.Put(std::vector<TEvent>{{kEventKey, 'a'}, {kEventKey, 'b'}, {kEventKey, kEscape}});
+  taker.join();
+  EXPECT_EQ(first, 'a');
+  EXPECT_TRUE(foundOthers);
+  EXPECT_FALSE(queue.IsPending());
 }
 
 TEST(EventQueue, APollOfAnEmptyQueueReturnsAtOnce) {
