@@ -95,9 +95,13 @@ void CConsoleDrawingArea::EndHurry() {
   if (gdk_events_pending()) g_main_context_wakeup(nullptr);
 }
 
+// Some window managers leave a window larger than its picture. To the right of it the
+// display itself clears what a copy lacks; below it there is nothing to copy.
 void CConsoleDrawingArea::CopyToWindow(int x, int y, int width, int height) {
   cairo_surface_flush(cairo_get_target(Picture()));
-  GdkDrawable* const window = gtk_widget_get_window(GTK_WIDGET(gobj()));
+  GdkWindow* const window = gtk_widget_get_window(GTK_WIDGET(gobj()));
+  const int below = y + height - std::max(y, pictureHeight);
+  if (below > 0) gdk_window_clear_area(window, x, y + height - below, width, below);
   const int end = std::min(y + height, pictureHeight);
   for (int bottom = 0; y < end; y = bottom) {
     const int row = y / rowHeight;

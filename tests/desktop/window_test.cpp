@@ -6,9 +6,12 @@
 
 namespace {
 
+constexpr int kBlack = 0;
 constexpr int kBlue = 1, kGreen = 2;  // palette indices of panel and cursor bar on a directory
 constexpr int kFirstEntryRow = 1;
 constexpr char kQuestion[] = "Are you sure you want to exit Orvane ?";
+
+bool IsBlank(const std::string& row) { return row.find_first_not_of(' ') == std::string::npos; }
 
 }  // namespace
 
@@ -63,4 +66,19 @@ TEST(Window, GrowsToFiftyRowsAndComesBack) {
   d.Keys("Alt-F9");
   EXPECT_TRUE(d.Eventually([&] { return d.Rows() == 25 && d.Row(24).starts_with("1Help"); }));
   EXPECT_TRUE(d.EventuallyShows("apple.txt"));
+}
+
+TEST(Window, IsBlackBelowAScreenThatIsLowerThanItself) {
+  Desktop d;
+  d.Keys("Alt-F9");
+  ASSERT_TRUE(d.Eventually([&] { return d.Rows() == 50 && d.Row(49).starts_with("1Help"); }));
+  d.KeepWindowSize();
+  d.Keys("Alt-F9");
+  EXPECT_TRUE(d.Eventually([&] {
+    bool isBlack = true;
+    for (int row = 25; row < 50; ++row)
+      isBlack = isBlack && d.Background(3, row) == kBlack && IsBlank(d.Row(row));
+    return isBlack && d.Row(24).starts_with("1Help");
+  }));
+  EXPECT_EQ(d.Rows(), 50);
 }

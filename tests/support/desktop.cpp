@@ -245,6 +245,29 @@ void Desktop::CoverForAMoment() {
   XSync(display, False);
 }
 
+void Desktop::KeepWindowSize() {
+  XSelectInput(display, DefaultRootWindow(display), SubstructureRedirectMask);
+  XSync(display, False);
+}
+
+// The program waits for what has become of its wish.
+void Desktop::RefuseSizes() const {
+  XEvent request;
+  while (XCheckTypedEvent(display, ConfigureRequest, &request)) {
+    XWindowAttributes now;
+    if (!XGetWindowAttributes(display, window, &now)) return;
+    XEvent answer{};
+    answer.xconfigure.type = ConfigureNotify;
+    answer.xconfigure.event = answer.xconfigure.window = window;
+    answer.xconfigure.x = now.x;
+    answer.xconfigure.y = now.y;
+    answer.xconfigure.width = now.width;
+    answer.xconfigure.height = now.height;
+    XSendEvent(display, window, False, StructureNotifyMask, &answer);
+    XSync(display, False);
+  }
+}
+
 // ---- what is seen ----------------------------------------------------------
 
 int Desktop::Columns() const { return TakePicture().width / cellWidth; }
@@ -361,6 +384,7 @@ std::string Desktop::Screen() const {
 bool Desktop::Eventually(const std::function<bool()>& condition) const {
   for (const auto deadline = Clock::now() + kPatience; !condition();) {
     if (Clock::now() > deadline) return false;
+    RefuseSizes();
     poll(nullptr, 0, kPollPauseMs);
   }
   return true;

@@ -46,6 +46,9 @@ class Desktop {
   void Click(unsigned button, int column, int row);
   void CloseWindow();      // what a window manager's close button sends
   void CoverForAMoment();  // with a white window, which leaves black where it was
+  // From now on the window keeps its size whatever the program asks for, as some
+  // window managers have it. They answer while something is waited for.
+  void KeepWindowSize();
 
   // ---- what is seen
 
@@ -80,6 +83,7 @@ class Desktop {
 
   void Start(const std::vector<std::string>& arguments);
   void FindWindow();
+  void RefuseSizes() const;
   void PressKey(uint32_t keysym, bool down);
   void LearnGlyphs();
   Glyph ReadGlyph(const Picture& picture, int column, int row) const;
