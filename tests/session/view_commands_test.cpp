@@ -79,21 +79,19 @@ TEST(ViewCommands, AnEmptyListHasNothingToView) {
 
 TEST(ViewCommands, TheMenuViews) {
   Session s(kFiles);
-  s.Keys("End F9 Esc F9");
-  s.Keys("Esc");
-  s.Command(FKey(3));
+  s.Keys("End F9 f v");
   EXPECT_TRUE(IsViewed(s, "left/c.dat"));
 }
 
 TEST(ViewCommands, TheClockIsNotOverTheText) {
   Session s(kFiles, {.settings = "Clock=on\n"});
+  const auto isClockShown = [&] { return s.Character(79, 0) == U'a' || s.Character(79, 0) == U'p'; };
   s.Keys("End");
-  const std::string clock = s.Text(74, 0, 6).String();
+  EXPECT_TRUE(isClockShown());
   s.Keys("F3");
   EXPECT_TRUE(s.Row(kStatusRow).EndsWith("%"));
   s.Keys("Esc");
-  EXPECT_EQ(s.Text(74, 0, 6).String().size(), clock.size());
-  EXPECT_FALSE(s.Row(0).EndsWith("%"));
+  EXPECT_TRUE(isClockShown());
 }
 
 // ---- Shift-F3
