@@ -37,7 +37,8 @@ class CharacterSearch {
  private:
   enum class Rest { Hit, Differs, PartOfWord, EndOfFile };
 
-  int Read() { return reverse ? file.PrevChar() : file.GetChar(); }
+  int Read() { return reverse ? ReadBack() : file.GetChar(); }
+  int ReadBack();
   int ReadBehind();
   bool IsBehindWord();
   bool IsInFrontOfWord();
@@ -53,11 +54,14 @@ class CharacterSearch {
   int lastRead = kEnd;
 };
 
+// What cannot be read ends the text, where the reader would step over it.
+int CharacterSearch::ReadBack() { return file.ByteAt(file.Position - 1) < 0 ? kEnd : file.PrevChar(); }
+
 // The character on the other side of Position, the one read before. Backward, the
 // reader would leave a start between two units for the units' true places.
 int CharacterSearch::ReadBehind() {
   if (reverse) return file.GetChar();
-  if (file.Encoding == kUtf8) return file.Position > 0 ? file.PrevChar() : kEnd;
+  if (file.Encoding == kUtf8) return ReadBack();
   file.Position -= file.BytesPerUnit();
   return file.Position >= 0 ? file.GetChar() : kEnd;
 }

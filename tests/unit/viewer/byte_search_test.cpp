@@ -201,6 +201,17 @@ TEST(ByteSearch, HitsAcrossTheEndOfABlockAreFoundBothWays) {
   }
 }
 
+TEST(ByteSearch, ABlockThatCannotBeReadEndsItBothWays) {
+  const std::string bytes = "ab" + std::string(4 * kBlock - 4, '-') + "ab";
+  const int64_t last = 4 * kBlock - 2;
+  SearchedText whole(bytes), damaged(bytes);
+  EXPECT_EQ(whole.FindBytes(L"ab", 1), last);
+  EXPECT_EQ(whole.FindBytesBack(L"ab", last), 0);
+  damaged.LoseBlock(2);
+  EXPECT_EQ(damaged.FindBytes(L"ab", 1), kSearchNone);
+  EXPECT_EQ(damaged.FindBytesBack(L"ab", last), kSearchNone);
+}
+
 // ---- long texts
 
 // The skips know the positions up to 127; a byte whose last one is above counts

@@ -23,6 +23,15 @@ class SearchedText : public CTextFile {
     OpenAs(kUtf8);
   }
 
+  // From now on a block of it cannot be read: it was not there when it was looked at.
+  void LoseBlock(int block) {
+    const auto path = directory.Path("text");
+    const std::string whole = directory.Content("text");
+    std::filesystem::resize_file(path, static_cast<uint64_t>(block) * kBlockSize);
+    EXPECT_EQ(ByteAt(int64_t{block} * kBlockSize), -1);
+    directory.Write("text", whole);
+  }
+
   // The searches with what most tests want.
   int64_t Find(const Westring& text, int64_t start = 0) { return Search(text, start, true, false, false); }
   int64_t FindAnyCase(const Westring& text) { return Search(text, 0, false, false, false); }

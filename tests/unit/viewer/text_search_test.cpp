@@ -220,3 +220,14 @@ TEST(TextSearch, HitsAcrossTheEndOfABlockAreFoundBothWays) {
     EXPECT_EQ(text.FindBack(L"aжбc", offset + 5), kSearchNone);
   }
 }
+
+TEST(TextSearch, ABlockThatCannotBeReadEndsItBothWays) {
+  const std::string bytes = "ab" + std::string(4 * kBlock - 4, '-') + "ab";
+  const int64_t last = 4 * kBlock - 2;
+  SearchedText whole(bytes), damaged(bytes);
+  EXPECT_EQ(whole.Find(L"ab", 1), last);
+  EXPECT_EQ(whole.FindBack(L"ab", last), 0);
+  damaged.LoseBlock(2);
+  EXPECT_EQ(damaged.Find(L"ab", 1), kSearchNone);
+  EXPECT_EQ(damaged.FindBack(L"ab", last), kSearchNone);
+}
