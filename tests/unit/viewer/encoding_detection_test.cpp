@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <string>
 
+#include "support/faults.h"
 #include "unit/viewer/text_bytes.h"
 
 namespace {
@@ -231,10 +233,20 @@ TEST(EncodingGuess, CodePageTextIsNeitherOfTheWideOnes) {
   EXPECT_EQ(Detected("caf\xE9 \n and so on\n"), kCodePageText);
 }
 
-TEST(EncodingGuess, AFileThatCannotBeReadIsTakenForEmpty) {
+TEST(EncodingGuess, WithoutAFileThereIsNone) {
   CTextFile text;
   EXPECT_NE(text.Open(L"/no/such/file"), 0);
   EXPECT_EQ(text.Encoding, kUnknownEncoding);
   EXPECT_EQ(text.Position, 0);
   EXPECT_FALSE(text.HasBOM);
+}
+
+TEST(EncodingGuess, AFileThatCannotBeReadIsTakenForEmpty) {
+  ScratchDirectory box;
+  box.Write("text", "caf\xE9");
+  const Fault broken(kCallRead, {.path = box.Path("text"), .times = kEveryCall, .code = EIO});
+  CTextFile text;
+  ASSERT_EQ(text.Open(box.Path("text").c_str()), 0);
+  EXPECT_EQ(text.Encoding, kUtf8);
+  EXPECT_EQ(text.GetChar(), -1);
 }
