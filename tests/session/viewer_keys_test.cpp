@@ -247,6 +247,15 @@ TEST(ViewerKeys, LeavingHexModeAtALineStartStaysThere) {
   EXPECT_EQ(s.Top(), "next");
 }
 
+// Of a line end of two bytes the last one is a zero.
+TEST(ViewerKeys, LeavingHexModeLooksAtOneByteBeforeTheTop) {
+  std::string text = "\xFF\xFE";
+  for (const char letter : ManyLines(100)) text += {letter, '\0'};
+  ViewerSession s(text);
+  s.Keys("Down Down F4 F4");
+  EXPECT_EQ(s.Top(), "Line 2");
+}
+
 TEST(ViewerKeys, HexModeShowsAMark) {
   ViewerSession s("\xEF\xBB\xBFtext");
   s.Keys("F4 Home");
