@@ -25,6 +25,7 @@ void CConsoleDrawingArea::SetPicture(int width, int rowCount, int heightOfRow) {
   cairo.reset();
   copier.reset();
   picture.reset();
+  owed.reset(gdk_region_new());
   rows.Reset(rowCount);
   rowHeight = heightOfRow;
   pictureWidth = width;
