@@ -104,8 +104,9 @@ class CConsoleWindow : public Gtk::Window {
   Estring fontFamily;
   int fontSize;
   int codePage;
-  // Place and size of the cursor are changed by a terminal without the lock.
-  struct Place {
+  // Place and size of the cursor are changed by a terminal without the lock. Aligned so
+  // that every compiler reads a place in one step of the machine.
+  struct alignas(8) Place {
     int x = 0, y = 0;
     CellRect Cell() const { return {x, y, x, y}; }
   };

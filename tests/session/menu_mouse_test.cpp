@@ -68,12 +68,12 @@ TEST_F(MenuMouse, APressOnATitleOpensItsMenu) {
       {30, "Commands"}, {31, "Options"}, {41, "Options"}, {42, "Right"}, {50, "Right"}};
   for (const auto& [x, title] : columns) {
     Press(x, 0);
-    Then([&] {
-      EXPECT_EQ(Title(), title);
+    Then([&, wanted = title] {
+      EXPECT_EQ(Title(), wanted);
       EXPECT_TRUE(IsOpen());
     });
     Release(x, 0);
-    Then([&] { EXPECT_TRUE(IsOpen()) << title; });
+    Then([&, wanted = title] { EXPECT_TRUE(IsOpen()) << wanted; });
     Leave();
     EXPECT_EQ(Run(), 0u);
   }

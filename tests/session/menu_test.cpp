@@ -244,8 +244,8 @@ TEST_F(MenuScreen, ALetterOnTheClosedBarOpensTheTitleWithIt) {
       {"o", "Options"}, {"C", "Commands"}, {"Alt-f", "Files"}, {"r", "Right"}, {"L", "Left"}};
   for (const auto& [letter, title] : letters) {
     Keys(letter);
-    Then([&] {
-      EXPECT_EQ(Title(), title);
+    Then([&, wanted = title] {
+      EXPECT_EQ(Title(), wanted);
       EXPECT_TRUE(IsOpen());
     });
     Keys("Esc Esc");
