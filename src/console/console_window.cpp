@@ -141,7 +141,12 @@ void CConsoleWindow::DrawCells(const CellRect& block) {
     painter.DrawCursor(cairo, at.x * painter.CellWidth(), area.TopOf(at.y), cursorSize,
                        grid.At(at.x, at.y).attribute);
   }
-  area.Show(left, block.top * painter.CellHeight(), width,
+  ShowCells(block);
+}
+
+void CConsoleWindow::ShowCells(const CellRect& block) {
+  area.Show(block.left * painter.CellWidth(), block.top * painter.CellHeight(),
+            (block.right - block.left + 1) * painter.CellWidth(),
             (block.bottom - block.top + 1) * painter.CellHeight());
 }
 
@@ -235,11 +240,9 @@ void CConsoleWindow::Scroll(const CellRect& block, int lines, uint8_t attribute)
 void CConsoleWindow::MovePicture(const CellRect& block, int lines) {
   const CellRect target = ScrollTarget(block, lines);
   if (target.IsEmpty()) return;
-  const int left = block.left * painter.CellWidth(),
-            width = (block.right - block.left + 1) * painter.CellWidth();
-  area.ScrollPicture(left, width, block.top, block.bottom, lines);
-  area.Show(left, target.top * painter.CellHeight(), width,
-            (target.bottom - target.top + 1) * painter.CellHeight());
+  area.ScrollPicture(block.left * painter.CellWidth(), (block.right - block.left + 1) * painter.CellWidth(),
+                     block.top, block.bottom, lines);
+  ShowCells(target);
 }
 
 // What stays where it is on the screen, though its picture went along.

@@ -122,6 +122,7 @@ class CConsoleWindow : public Gtk::Window {
   void Layout(int columns, int rows, int points);
   bool FitsDisplay(ScreenSize size) const;
   void DrawCells(const CellRect& block);
+  void ShowCells(const CellRect& block);  // what the picture has of them, in the window
   void DrawCellRow(cairo_t* cairo, const CellRect& block, int y);
   CellRect WithNeighbours(const CellRect& block) const;
   void Repaint(const CellRect& block);
